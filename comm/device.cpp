@@ -1,0 +1,103 @@
+#include "device.h"
+
+#include "device_panel.h"
+#include "frame_codec.h"
+#include "panel_registry.h"
+
+#include <QDebug>
+#include <QFrame>
+#include <QLayout>
+#include <QThread>
+
+device::device(QWidget *host, const panel_registry *registry)
+    : host_(host), registry_(registry ? registry : &panel_registry::instance()) {
+    worker_ = new QThread;
+    worker_->setObjectName(QStringLiteral("device"));
+    worker_->start(QThread::InheritPriority);
+    moveToThread(worker_);
+}
+
+device::~device() {
+    // The panel belongs to the GUI thread, as does the caller.
+    delete current_panel_.data();
+    worker_->quit();
+    worker_->wait();
+    delete worker_;
+}
+
+void device::tick() {
+    const int id = can_id_.load();
+    if (type_id_.load() == -1) {
+        emit sig_send_command(compose_read_request(id, type_request_code));
+    }
+    if (identity_value_.load() == -1) {
+        emit sig_send_command(compose_read_request(id, identity_request_code));
+    } else {
+        emit sig_refresh_state();
+    }
+
+    // The counter is not changed once past the limit; any accepted answer sets it back to 0.
+    if (no_answer_counter_.load() > silence_limit) {
+        type_id_.store(-1);
+    } else {
+        no_answer_counter_.fetch_add(1);
+    }
+
+    const int type = type_id_.load();
+    if (type != previous_type_id_) {
+        previous_type_id_ = type;
+        rebuild_panel();
+    }
+}
+
+void device::rebuild_panel() {
+    delete current_panel_.data();
+    current_panel_ = nullptr;
+
+    device_panel *panel = registry_->create(previous_type_id_, host_);
+    if (!panel) {
+        return;
+    }
+    current_panel_ = panel;
+    panel->set_can_id_source(&can_id_);
+    panel->set_display_name(name_);
+
+    connect(this, &device::sig_parsed_data_received, panel,
+            &device_panel::sl_parsed_data_received);
+    connect(panel, &device_panel::sig_w_send_command, this, &device::sl_w_send_command);
+    connect(panel, &device_panel::send_emission, this, &device::upd_emission_state);
+    emit sig_change_ui_widget(this, slot_);
+
+    if (panel->layout()) {
+        auto *line = new QFrame(panel);
+        line->setFrameShape(QFrame::HLine);
+        line->setFrameShadow(QFrame::Sunken);
+        panel->layout()->addWidget(line);
+    }
+    panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void device::sl_d_data_received(QString line) {
+    const frame_codec::parsed_line frame = frame_codec::parse(line);
+    if (!frame.is_frame ||
+        !frame_codec::accepts(frame.sender, can_id_.load(), accept_any_sender_.load())) {
+        return;
+    }
+    no_answer_counter_.store(0);
+    if (frame.code == type_answer_code) {
+        if (frame.value != 0) {
+            type_id_.store(frame.value);
+        } else {
+            qDebug() << "dev_type = 0";
+        }
+    } else if (frame.code == identity_answer_code) {
+        identity_value_.store(frame.value);
+    }
+    emit sig_parsed_data_received(frame.code, frame.value);
+}
+
+void device::sl_w_send_command(int code, long value) {
+    emit sig_send_command(compose_write_frame(can_id_.load(), code, frame_codec::to_wire(value)));
+}
+
+void device::upd_emission_state(int state) { emission_state_.store(state); }

@@ -1,0 +1,205 @@
+#include "serial_connector.h"
+
+#include <QDebug>
+#include <QMutexLocker>
+#include <QThread>
+
+#include <poll.h>
+
+serial_connector::serial_connector(QObject *parent) : QObject(parent) {
+    worker_ = new QThread;
+    worker_->setObjectName(QStringLiteral("serial_connector"));
+    worker_->start(QThread::InheritPriority);
+    moveToThread(worker_);
+}
+
+serial_connector::~serial_connector() {
+    if (worker_->isRunning()) {
+        if (QThread::currentThread() == worker_) {
+            release_port();
+        } else {
+            QMetaObject::invokeMethod(
+                this, [this] { release_port(); }, Qt::BlockingQueuedConnection);
+        }
+        worker_->quit();
+        worker_->wait();
+    } else {
+        release_port();
+    }
+    delete worker_;
+}
+
+void serial_connector::release_port() {
+    if (port_) {
+        port_->close();
+        delete port_;
+        port_ = nullptr;
+    }
+}
+
+QString serial_connector::port_name() const {
+    QMutexLocker lock(&name_lock_);
+    return port_name_;
+}
+
+void serial_connector::set_port_name(const QString &name) {
+    QMutexLocker lock(&name_lock_);
+    port_name_ = name;
+}
+
+void serial_connector::apply_settings(QSerialPort *port, const QString &name) {
+    port->setPortName(name);
+    port->setBaudRate(QSerialPort::Baud57600, QSerialPort::AllDirections);
+    port->setDataBits(QSerialPort::Data8);
+    port->setFlowControl(QSerialPort::NoFlowControl);
+    port->setStopBits(QSerialPort::OneStop);
+    port->setParity(QSerialPort::NoParity);
+}
+
+void serial_connector::replace_port(QSerialPort *port) {
+    // The previous port is closed by the caller; it is freed here rather than left allocated.
+    // deleteLater: this may run inside one of the old port's own signals.
+    if (port_) {
+        port_->disconnect(this);
+        port_->close();
+        port_->deleteLater();
+    }
+    port_ = port;
+    buffer_.clear();
+}
+
+bool serial_connector::port_ready() const {
+    return port_ && port_->isOpen() && port_->isWritable();
+}
+
+void serial_connector::sl_serial_connect(QString name) {
+    set_port_name(name);
+    replace_port(new QSerialPort);
+    apply_settings(port_, name);
+    connect(port_, &QSerialPort::readyRead, this, &serial_connector::sl_data_received);
+    connect(port_, &QSerialPort::errorOccurred, this, &serial_connector::sl_serial_handle_error);
+
+    port_->flush();
+    if (!port_->open(QIODevice::ReadWrite)) {
+        emit sig_disconnected();
+        return;
+    }
+    port_->flush();
+    port_->clear(QSerialPort::AllDirections);
+
+    // Switch the CAN channel on at 500 kbit/s; three times, so an adapter that missed the first
+    // pair after power-up still starts.
+    for (int i = 0; i < 3; ++i) {
+        sl_send_string(QStringLiteral("O\r"));
+        sl_send_string(QStringLiteral("S6\r"));
+    }
+    emit sig_connected();
+    qDebug() << "serial port is opened SUCCESSFULLY";
+}
+
+void serial_connector::sl_serial_set_prefs(QString name) {
+    if (port_) {
+        apply_settings(port_, name);
+    }
+}
+
+void serial_connector::sl_serial_reconnect() {
+    if (port_) {
+        port_->close();
+    }
+    qDebug() << "serial port DISONNECTED by soft";
+}
+
+bool serial_connector::port_hung_up() const {
+    // A pseudo-terminal whose other end closed (and some USB adapters after unplugging) keep
+    // reporting read errors; poll() tells such a port from a passing error by its hang-up flag.
+    const int fd = static_cast<int>(port_->handle());
+    if (fd < 0) {
+        return true;
+    }
+    pollfd p{fd, POLLIN, 0};
+    if (::poll(&p, 1, 0) < 0) {
+        return true;
+    }
+    return (p.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
+}
+
+void serial_connector::sl_serial_handle_error(QSerialPort::SerialPortError error) {
+    if (!port_ || !port_->isOpen()) {
+        return;
+    }
+    const bool lost = error == QSerialPort::ResourceError ||
+                      (error == QSerialPort::ReadError && port_hung_up());
+    if (!lost) {
+        return;
+    }
+    port_->close();
+    buffer_.clear();
+    emit sig_disconnected();
+    qDebug() << "serial port DISONNECTED by error";
+}
+
+void serial_connector::sl_serial_disconnect() {
+    if (port_) {
+        port_->close();
+    }
+    buffer_.clear();
+    emit sig_disconnected();
+}
+
+void serial_connector::sl_update_serial_socket() {
+    // A fresh, unopened port object wired for reading; nothing in the program calls this.
+    replace_port(new QSerialPort);
+    apply_settings(port_, port_name());
+    connect(port_, &QSerialPort::readyRead, this, &serial_connector::sl_data_received);
+    connect(port_, &QSerialPort::errorOccurred, this, &serial_connector::sl_serial_handle_error);
+}
+
+void serial_connector::sl_init_connection(QString name) {
+    if (port_ && port_->isOpen()) {
+        port_->close();
+    }
+    sl_serial_connect(name);
+}
+
+void serial_connector::sl_sender() {
+    if (port_ready()) {
+        emit sig_tearing();
+    }
+}
+
+void serial_connector::sl_data_received() {
+    if (!port_) {
+        return;
+    }
+    while (port_->isOpen() && port_->bytesAvailable() > 0) {
+        buffer_.append(port_->readLine());
+        if (buffer_.contains('\r')) {
+            // Every piece closed by a carriage return is a line; text after the last one is
+            // discarded with the buffer.
+            QList<QByteArray> pieces = buffer_.split('\r');
+            pieces.removeLast();
+            buffer_.clear();
+            for (const QByteArray &piece : qAsConst(pieces)) {
+                if (!piece.isEmpty()) {
+                    const QString line = QString::fromUtf8(piece);
+                    qDebug().noquote() << line;
+                    emit sig_parse_received_message(line);
+                }
+            }
+        }
+    }
+    if (buffer_.size() > max_buffered_bytes) {
+        buffer_.clear();
+    }
+}
+
+void serial_connector::sl_send_string(QString text) {
+    if (!port_ready()) {
+        return;
+    }
+    qDebug().noquote() << text;
+    QByteArray bytes = text.toUtf8();
+    bytes.append("\r\n", 2);
+    port_->write(bytes);
+}

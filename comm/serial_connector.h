@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMutex>
+#include <QObject>
+#include <QSerialPort>
+#include <QString>
+
+class QThread;
+
+// Owns the serial port to the USB-to-CAN adapter, in a thread of its own. Opens and configures the
+// port, switches the adapter's CAN channel on, writes strings, cuts the received stream into lines
+// and turns the window's 10 ms timer tick into the send-now pulse of the polling cycle. It knows
+// nothing of frames or devices: everything it moves is a QString.
+class serial_connector : public QObject {
+    Q_OBJECT
+public:
+    // A receive buffer that grows beyond this without a carriage return is discarded.
+    static constexpr int max_buffered_bytes = 5000;
+
+    explicit serial_connector(QObject *parent = nullptr);
+    // Closes the port in the connector's thread, then stops the thread and waits for it.
+    ~serial_connector() override;
+
+    // The port name used by the next connect request. Read and written from the GUI thread while
+    // the connector's thread also writes it, hence the lock.
+    QString port_name() const;
+    void set_port_name(const QString &name);
+
+    QThread *worker_thread() const { return worker_; }
+
+signals:
+    void sig_tearing();
+    void sig_connected();
+    void sig_disconnected();
+    void sig_parse_received_message(QString line);
+
+public slots:
+    void sl_serial_connect(QString name);
+    void sl_serial_set_prefs(QString name);
+    void sl_serial_reconnect();
+    void sl_serial_handle_error(QSerialPort::SerialPortError error);
+    void sl_serial_disconnect();
+    void sl_update_serial_socket();
+    void sl_init_connection(QString name);
+    void sl_sender();
+    void sl_data_received();
+    void sl_send_string(QString text);
+
+private:
+    void apply_settings(QSerialPort *port, const QString &name);
+    void replace_port(QSerialPort *port);
+    bool port_ready() const;
+    bool port_hung_up() const;
+    void release_port();
+
+    mutable QMutex name_lock_;
+    QString port_name_;
+    QThread *worker_ = nullptr;
+    QSerialPort *port_ = nullptr;
+    QByteArray buffer_;
+};
