@@ -79,7 +79,7 @@ void serial_connector::sl_serial_connect(QString name) {
     connect(port_, &QSerialPort::readyRead, this, &serial_connector::sl_data_received);
     connect(port_, &QSerialPort::errorOccurred, this, &serial_connector::sl_serial_handle_error);
 
-    port_->flush();
+    // A new port object has nothing to flush before it is open.
     if (!port_->open(QIODevice::ReadWrite)) {
         emit sig_disconnected();
         return;
@@ -173,7 +173,9 @@ void serial_connector::sl_data_received() {
         return;
     }
     while (port_->isOpen() && port_->bytesAvailable() > 0) {
-        buffer_.append(port_->readLine());
+        const QByteArray chunk = port_->readLine();
+        bytes_received_.fetch_add(chunk.size());
+        buffer_.append(chunk);
         if (buffer_.contains('\r')) {
             // Every piece closed by a carriage return is a line; text after the last one is
             // discarded with the buffer.

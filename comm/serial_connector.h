@@ -6,6 +6,8 @@
 #include <QSerialPort>
 #include <QString>
 
+#include <atomic>
+
 class QThread;
 
 // Owns the serial port to the USB-to-CAN adapter, in a thread of its own. Opens and configures the
@@ -28,6 +30,8 @@ public:
     void set_port_name(const QString &name);
 
     QThread *worker_thread() const { return worker_; }
+    // Bytes taken from the port since construction (diagnostics; lets tests know a read happened).
+    qint64 bytes_received() const { return bytes_received_.load(); }
 
 signals:
     void sig_tearing();
@@ -59,4 +63,5 @@ private:
     QThread *worker_ = nullptr;
     QSerialPort *port_ = nullptr;
     QByteArray buffer_;
+    std::atomic<qint64> bytes_received_{0};
 };

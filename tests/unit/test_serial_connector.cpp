@@ -1,0 +1,221 @@
+// The serial link over a real pseudo-terminal: the test holds the master end of the line.
+#include "frame_codec.h"
+#include "pty_pair.h"
+#include "serial_connector.h"
+
+#include <QSignalSpy>
+#include <QThread>
+#include <QtTest>
+
+#include <pthread.h>
+#include <time.h>
+
+namespace {
+
+const QByteArray adapter_start = QByteArray("O\r\r\nS6\r\r\n").repeated(3);
+
+// Calls a slot of the connector in its own thread, as the window's queued signals do.
+template <typename F>
+void in_link_thread(serial_connector &link, F &&fn) {
+    QMetaObject::invokeMethod(&link, std::forward<F>(fn), Qt::QueuedConnection);
+}
+
+// CPU time the connector's thread has used so far, in milliseconds.
+double thread_cpu_ms(serial_connector &link) {
+    pthread_t handle{};
+    QMetaObject::invokeMethod(
+        &link, [&handle] { handle = pthread_self(); }, Qt::BlockingQueuedConnection);
+    clockid_t clock{};
+    timespec ts{};
+    if (pthread_getcpuclockid(handle, &clock) != 0 || clock_gettime(clock, &ts) != 0) {
+        return -1;
+    }
+    return ts.tv_sec * 1e3 + ts.tv_nsec / 1e6;
+}
+
+}  // namespace
+
+class test_serial_connector : public QObject {
+    Q_OBJECT
+
+    // A connector opened on a fresh pseudo-terminal, with the adapter start bytes consumed.
+    struct open_link {
+        pty_pair pty;
+        serial_connector link;
+        QSignalSpy connected{&link, &serial_connector::sig_connected};
+        QSignalSpy disconnected{&link, &serial_connector::sig_disconnected};
+        QSignalSpy lines{&link, &serial_connector::sig_parse_received_message};
+
+        bool open() {
+            const QString path = pty.slave_path();
+            in_link_thread(link, [this, path] { link.sl_init_connection(path); });
+            return connected.wait(3000) && pty.read_exactly(adapter_start.size()) == adapter_start;
+        }
+        QStringList received() const {
+            QStringList out;
+            for (const QList<QVariant> &args : lines) {
+                out << args.at(0).toString();
+            }
+            return out;
+        }
+    };
+
+private slots:
+    void open_sends_three_channel_start_pairs() {
+        open_link l;
+        QVERIFY(l.pty.ok());
+        const QString path = l.pty.slave_path();
+        in_link_thread(l.link, [&l, path] { l.link.sl_init_connection(path); });
+        QVERIFY(l.connected.wait(3000));
+        QCOMPARE(l.pty.read_exactly(adapter_start.size()), adapter_start);
+        QCOMPARE(l.link.port_name(), path);
+        QCOMPARE(l.disconnected.count(), 0);
+    }
+
+    void open_failure_reports_disconnected() {
+        open_link l;
+        in_link_thread(l.link, [&l] { l.link.sl_init_connection("/dev/lumivox-no-such-port"); });
+        QVERIFY(l.disconnected.wait(3000));
+        QCOMPARE(l.connected.count(), 0);
+        QCOMPARE(l.link.port_name(), QStringLiteral("/dev/lumivox-no-such-port"));
+    }
+
+    void frame_leaves_as_29_bytes() {
+        open_link l;
+        QVERIFY(l.open());
+        const QString frame = frame_codec::compose(5, 0x12, frame_codec::to_wire(-5));
+        in_link_thread(l.link, [&l, frame] { l.link.sl_send_string(frame); });
+        const QByteArray wire = l.pty.read_exactly(29);
+        QCOMPARE(wire, QByteArray("t005812220000fffffffb2c8f\r\n\r\n"));
+    }
+
+    void lines_are_cut_at_carriage_returns_data() {
+        QTest::addColumn<QList<QByteArray>>("chunks");
+        QTest::addColumn<QStringList>("expected");
+        const QByteArray a = "t0058910500000000000a1111";
+        const QByteArray b = "t00689106000000000014222";
+        QTest::newRow("two frames in one read") << QList<QByteArray>{a + "\r" + b + "\r"}
+                                                << QStringList{a, b};
+        QTest::newRow("line split across reads")
+            << QList<QByteArray>{a.left(9), a.mid(9) + "\r"} << QStringList{a};
+        QTest::newRow("line feed of the next read starts the next piece")
+            << QList<QByteArray>{a + "\r", "\n" + b + "\r"} << QStringList{a, "\n" + b};
+        QTest::newRow("text after the last carriage return is discarded")
+            << QList<QByteArray>{a + "\r\n", b + "\r"} << QStringList{a, b};
+        QTest::newRow("partial frame after the last carriage return is discarded")
+            << QList<QByteArray>{a + "\r" + b.left(10), b.mid(10) + "\r"}
+            << QStringList{a, b.mid(10)};
+        QTest::newRow("empty pieces skipped") << QList<QByteArray>{"\r\r" + a + "\r\r"}
+                                              << QStringList{a};
+    }
+    void lines_are_cut_at_carriage_returns() {
+        QFETCH(QList<QByteArray>, chunks);
+        QFETCH(QStringList, expected);
+        open_link l;
+        QVERIFY(l.open());
+        qint64 sent = l.link.bytes_received();
+        for (const QByteArray &chunk : chunks) {
+            QVERIFY(l.pty.write(chunk));
+            // Each chunk is read by the program before the next one is written.
+            sent += chunk.size();
+            QTRY_COMPARE(l.link.bytes_received(), sent);
+        }
+        QTRY_COMPARE(l.received(), expected);
+    }
+
+    void flood_without_carriage_return_is_dropped() {
+        open_link l;
+        QVERIFY(l.open());
+        const QByteArray flood(serial_connector::max_buffered_bytes + 1000, 'x');
+        const qint64 before = l.link.bytes_received();
+        QVERIFY(l.pty.write(flood));
+        QTRY_COMPARE(l.link.bytes_received(), before + flood.size());
+        const QByteArray line = "t0058910500000000000a1111";
+        QVERIFY(l.pty.write(line + "\r"));
+        QTRY_COMPARE(l.lines.count(), 1);
+        QCOMPARE(l.received(), QStringList{line});
+    }
+
+    void text_below_the_guard_is_kept() {
+        open_link l;
+        QVERIFY(l.open());
+        const QByteArray head(4000, 'x');
+        const qint64 before = l.link.bytes_received();
+        QVERIFY(l.pty.write(head));
+        QTRY_COMPARE(l.link.bytes_received(), before + head.size());
+        QVERIFY(l.pty.write("tail\r"));
+        QTRY_COMPARE(l.lines.count(), 1);
+        QCOMPARE(l.received(), QStringList{QString::fromLatin1(head + "tail")});
+    }
+
+    void connect_while_open_reopens() {
+        open_link l;
+        QVERIFY(l.open());
+        const QString path = l.pty.slave_path();
+        in_link_thread(l.link, [&l, path] { l.link.sl_init_connection(path); });
+        QTRY_COMPARE(l.connected.count(), 2);
+        QCOMPARE(l.pty.read_exactly(adapter_start.size()), adapter_start);
+        QCOMPARE(l.disconnected.count(), 0);
+    }
+
+    void writes_while_closed_are_dropped() {
+        open_link l;
+        // No port yet, then a closed port: neither write may reach the line.
+        in_link_thread(l.link, [&l] { l.link.sl_send_string("before"); });
+        QVERIFY(l.open());
+        in_link_thread(l.link, [&l] { l.link.sl_serial_disconnect(); });
+        QVERIFY(l.disconnected.wait(3000));
+        in_link_thread(l.link, [&l] { l.link.sl_send_string("while closed"); });
+        QVERIFY(l.open());
+        in_link_thread(l.link, [&l] { l.link.sl_send_string("after"); });
+        QCOMPARE(l.pty.read_exactly(7), QByteArray("after\r\n"));
+    }
+
+    void tick_pulses_only_while_open() {
+        open_link l;
+        QSignalSpy tearing(&l.link, &serial_connector::sig_tearing);
+        in_link_thread(l.link, [&l] { l.link.sl_sender(); });
+        QVERIFY(l.open());  // runs after the tick above, in the same thread
+        QCOMPARE(tearing.count(), 0);
+        in_link_thread(l.link, [&l] { l.link.sl_sender(); });
+        QVERIFY(tearing.wait(3000));
+        in_link_thread(l.link, [&l] { l.link.sl_serial_disconnect(); });
+        in_link_thread(l.link, [&l] { l.link.sl_sender(); });
+        QVERIFY(l.disconnected.wait(3000));
+        QMetaObject::invokeMethod(&l.link, [] {}, Qt::BlockingQueuedConnection);
+        QCOMPARE(tearing.count(), 1);
+    }
+
+    void hang_up_is_one_disconnection_and_the_thread_idles() {
+        open_link l;
+        QVERIFY(l.open());
+        l.pty.hang_up();
+        QVERIFY(l.disconnected.wait(3000));
+        const double before = thread_cpu_ms(l.link);
+        QTest::qWait(400);  // a window in which a spinning thread would burn CPU
+        const double used = thread_cpu_ms(l.link) - before;
+        QCOMPARE(l.disconnected.count(), 1);
+        QVERIFY2(used < 100, qPrintable(QStringLiteral("thread used %1 ms of CPU").arg(used)));
+        QSignalSpy tearing(&l.link, &serial_connector::sig_tearing);
+        in_link_thread(l.link, [&l] { l.link.sl_sender(); });
+        QMetaObject::invokeMethod(&l.link, [] {}, Qt::BlockingQueuedConnection);
+        QCOMPARE(tearing.count(), 0);
+    }
+
+    void destroying_stops_the_thread() {
+        auto *link = new serial_connector;
+        pty_pair pty;
+        QSignalSpy connected(link, &serial_connector::sig_connected);
+        const QString path = pty.slave_path();
+        QMetaObject::invokeMethod(link, [link, path] { link->sl_init_connection(path); });
+        QVERIFY(connected.wait(3000));
+        QThread *thread = link->worker_thread();
+        QVERIFY(thread->isRunning());
+        QSignalSpy finished(thread, &QThread::finished);
+        delete link;
+        QCOMPARE(finished.count(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_serial_connector)
+#include "test_serial_connector.moc"
