@@ -7,22 +7,16 @@
 #include <QDebug>
 #include <QFrame>
 #include <QLayout>
-#include <QThread>
 
 device::device(QWidget *host, const panel_registry *registry)
     : host_(host), registry_(registry ? registry : &panel_registry::instance()) {
-    worker_ = new QThread;
-    worker_->setObjectName(QStringLiteral("device"));
-    worker_->start(QThread::InheritPriority);
-    moveToThread(worker_);
+    moveToThread(worker_.thread());
 }
 
 device::~device() {
     // The panel belongs to the GUI thread, as does the caller.
     delete current_panel_.data();
-    worker_->quit();
-    worker_->wait();
-    delete worker_;
+    worker_.stop();
 }
 
 void device::tick() {

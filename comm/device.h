@@ -1,13 +1,13 @@
 #pragma once
 
 #include "can_command_factory.h"
+#include "worker_thread.h"
 
 #include <QPointer>
 #include <QString>
 
 #include <atomic>
 
-class QThread;
 class QWidget;
 class device_panel;
 class panel_registry;
@@ -54,7 +54,6 @@ public:
 
     // The panel on show, or null (no type yet, a type without panel, or lost).
     device_panel *current_panel() const { return current_panel_.data(); }
-    QThread *worker_thread() const { return worker_; }
 
 signals:
     void sig_change_ui_widget(device *dev, int slot);
@@ -82,5 +81,5 @@ private:
     QWidget *host_ = nullptr;
     QPointer<device_panel> current_panel_;
     const panel_registry *registry_ = nullptr;
-    QThread *worker_ = nullptr;
+    worker_thread worker_{QStringLiteral("device")};
 };

@@ -2,31 +2,16 @@
 
 #include <QDebug>
 #include <QMutexLocker>
-#include <QThread>
 
 #include <poll.h>
 
 serial_connector::serial_connector(QObject *parent) : QObject(parent) {
-    worker_ = new QThread;
-    worker_->setObjectName(QStringLiteral("serial_connector"));
-    worker_->start(QThread::InheritPriority);
-    moveToThread(worker_);
+    moveToThread(worker_.thread());
 }
 
 serial_connector::~serial_connector() {
-    if (worker_->isRunning()) {
-        if (QThread::currentThread() == worker_) {
-            release_port();
-        } else {
-            QMetaObject::invokeMethod(
-                this, [this] { release_port(); }, Qt::BlockingQueuedConnection);
-        }
-        worker_->quit();
-        worker_->wait();
-    } else {
-        release_port();
-    }
-    delete worker_;
+    // The port was created in the link's thread and is closed and freed there.
+    worker_.stop([this] { release_port(); });
 }
 
 void serial_connector::release_port() {

@@ -6,9 +6,9 @@
 #include <QSerialPort>
 #include <QString>
 
-#include <atomic>
+#include "worker_thread.h"
 
-class QThread;
+#include <atomic>
 
 // Owns the serial port to the USB-to-CAN adapter, in a thread of its own. Opens and configures the
 // port, switches the adapter's CAN channel on, writes strings, cuts the received stream into lines
@@ -29,7 +29,6 @@ public:
     QString port_name() const;
     void set_port_name(const QString &name);
 
-    QThread *worker_thread() const { return worker_; }
     // Bytes taken from the port since construction (diagnostics; lets tests know a read happened).
     qint64 bytes_received() const { return bytes_received_.load(); }
 
@@ -60,7 +59,7 @@ private:
 
     mutable QMutex name_lock_;
     QString port_name_;
-    QThread *worker_ = nullptr;
+    worker_thread worker_{QStringLiteral("serial_connector")};
     QSerialPort *port_ = nullptr;
     QByteArray buffer_;
     std::atomic<qint64> bytes_received_{0};

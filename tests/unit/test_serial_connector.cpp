@@ -1,10 +1,11 @@
 // The serial link over a real pseudo-terminal: the test holds the master end of the line.
+#include "cross_thread.h"
 #include "frame_codec.h"
 #include "pty_pair.h"
 #include "serial_connector.h"
 
-#include <QSignalSpy>
-#include <QThread>
+#include <QDir>
+#include <QFileInfo>
 #include <QtTest>
 
 #include <pthread.h>
@@ -16,21 +17,32 @@ const QByteArray adapter_start = QByteArray("O\r\r\nS6\r\r\n").repeated(3);
 
 // Calls a slot of the connector in its own thread, as the window's queued signals do.
 template <typename F>
-void in_link_thread(serial_connector &link, F &&fn) {
-    QMetaObject::invokeMethod(&link, std::forward<F>(fn), Qt::QueuedConnection);
+void in_link_thread(serial_connector &link, F fn) {
+    post_to(&link, std::move(fn));
 }
 
 // CPU time the connector's thread has used so far, in milliseconds.
 double thread_cpu_ms(serial_connector &link) {
     pthread_t handle{};
-    QMetaObject::invokeMethod(
-        &link, [&handle] { handle = pthread_self(); }, Qt::BlockingQueuedConnection);
+    run_in(&link, [&handle] { handle = pthread_self(); });
     clockid_t clock{};
     timespec ts{};
     if (pthread_getcpuclockid(handle, &clock) != 0 || clock_gettime(clock, &ts) != 0) {
         return -1;
     }
     return ts.tv_sec * 1e3 + ts.tv_nsec / 1e6;
+}
+
+// How many descriptors of this process refer to `path`.
+int descriptors_open_on(const QString &path) {
+    int count = 0;
+    const QDir fds(QStringLiteral("/proc/self/fd"));
+    for (const QFileInfo &fd : fds.entryInfoList(QDir::System | QDir::NoDotAndDotDot)) {
+        if (fd.symLinkTarget() == path) {
+            ++count;
+        }
+    }
+    return count;
 }
 
 }  // namespace
@@ -42,19 +54,21 @@ class test_serial_connector : public QObject {
     struct open_link {
         pty_pair pty;
         serial_connector link;
-        QSignalSpy connected{&link, &serial_connector::sig_connected};
-        QSignalSpy disconnected{&link, &serial_connector::sig_disconnected};
-        QSignalSpy lines{&link, &serial_connector::sig_parse_received_message};
+        signal_log connected{&link, &serial_connector::sig_connected};
+        signal_log disconnected{&link, &serial_connector::sig_disconnected};
+        signal_log lines{&link, &serial_connector::sig_parse_received_message};
 
         bool open() {
             const QString path = pty.slave_path();
             in_link_thread(link, [this, path] { link.sl_init_connection(path); });
-            return connected.wait(3000) && pty.read_exactly(adapter_start.size()) == adapter_start;
+            const int before = connected.count();
+            return connected.wait_for(before + 1) &&
+                   pty.read_exactly(adapter_start.size()) == adapter_start;
         }
         QStringList received() const {
             QStringList out;
-            for (const QList<QVariant> &args : lines) {
-                out << args.at(0).toString();
+            for (int i = 0; i < lines.count(); ++i) {
+                out << lines.first_arg(i).toString();
             }
             return out;
         }
@@ -66,7 +80,7 @@ private slots:
         QVERIFY(l.pty.ok());
         const QString path = l.pty.slave_path();
         in_link_thread(l.link, [&l, path] { l.link.sl_init_connection(path); });
-        QVERIFY(l.connected.wait(3000));
+        QVERIFY(l.connected.wait_for(1));
         QCOMPARE(l.pty.read_exactly(adapter_start.size()), adapter_start);
         QCOMPARE(l.link.port_name(), path);
         QCOMPARE(l.disconnected.count(), 0);
@@ -75,7 +89,7 @@ private slots:
     void open_failure_reports_disconnected() {
         open_link l;
         in_link_thread(l.link, [&l] { l.link.sl_init_connection("/dev/lumivox-no-such-port"); });
-        QVERIFY(l.disconnected.wait(3000));
+        QVERIFY(l.disconnected.wait_for(1));
         QCOMPARE(l.connected.count(), 0);
         QCOMPARE(l.link.port_name(), QStringLiteral("/dev/lumivox-no-such-port"));
     }
@@ -164,7 +178,7 @@ private slots:
         in_link_thread(l.link, [&l] { l.link.sl_send_string("before"); });
         QVERIFY(l.open());
         in_link_thread(l.link, [&l] { l.link.sl_serial_disconnect(); });
-        QVERIFY(l.disconnected.wait(3000));
+        QVERIFY(l.disconnected.wait_for(1));
         in_link_thread(l.link, [&l] { l.link.sl_send_string("while closed"); });
         QVERIFY(l.open());
         in_link_thread(l.link, [&l] { l.link.sl_send_string("after"); });
@@ -173,16 +187,17 @@ private slots:
 
     void tick_pulses_only_while_open() {
         open_link l;
-        QSignalSpy tearing(&l.link, &serial_connector::sig_tearing);
+        signal_log tearing(&l.link, &serial_connector::sig_tearing);
         in_link_thread(l.link, [&l] { l.link.sl_sender(); });
         QVERIFY(l.open());  // runs after the tick above, in the same thread
         QCOMPARE(tearing.count(), 0);
         in_link_thread(l.link, [&l] { l.link.sl_sender(); });
-        QVERIFY(tearing.wait(3000));
+        QVERIFY(tearing.wait_for(1));
         in_link_thread(l.link, [&l] { l.link.sl_serial_disconnect(); });
         in_link_thread(l.link, [&l] { l.link.sl_sender(); });
-        QVERIFY(l.disconnected.wait(3000));
-        QMetaObject::invokeMethod(&l.link, [] {}, Qt::BlockingQueuedConnection);
+        QVERIFY(l.disconnected.wait_for(1));
+        run_in(&l.link, [] {});
+        QCoreApplication::processEvents();
         QCOMPARE(tearing.count(), 1);
     }
 
@@ -190,30 +205,32 @@ private slots:
         open_link l;
         QVERIFY(l.open());
         l.pty.hang_up();
-        QVERIFY(l.disconnected.wait(3000));
+        QVERIFY(l.disconnected.wait_for(1));
         const double before = thread_cpu_ms(l.link);
         QTest::qWait(400);  // a window in which a spinning thread would burn CPU
         const double used = thread_cpu_ms(l.link) - before;
         QCOMPARE(l.disconnected.count(), 1);
         QVERIFY2(used < 100, qPrintable(QStringLiteral("thread used %1 ms of CPU").arg(used)));
-        QSignalSpy tearing(&l.link, &serial_connector::sig_tearing);
+        signal_log tearing(&l.link, &serial_connector::sig_tearing);
         in_link_thread(l.link, [&l] { l.link.sl_sender(); });
-        QMetaObject::invokeMethod(&l.link, [] {}, Qt::BlockingQueuedConnection);
+        run_in(&l.link, [] {});
+        QCoreApplication::processEvents();
         QCOMPARE(tearing.count(), 0);
     }
 
-    void destroying_stops_the_thread() {
+    void reopening_and_destroying_release_the_port() {
         auto *link = new serial_connector;
         pty_pair pty;
-        QSignalSpy connected(link, &serial_connector::sig_connected);
+        signal_log connected(link, &serial_connector::sig_connected);
         const QString path = pty.slave_path();
-        QMetaObject::invokeMethod(link, [link, path] { link->sl_init_connection(path); });
-        QVERIFY(connected.wait(3000));
-        QThread *thread = link->worker_thread();
-        QVERIFY(thread->isRunning());
-        QSignalSpy finished(thread, &QThread::finished);
-        delete link;
-        QCOMPARE(finished.count(), 1);
+        for (int i = 1; i <= 3; ++i) {
+            post_to(link, [link, path] { link->sl_init_connection(path); });
+            QVERIFY(connected.wait_for(i));
+        }
+        // The test's own descriptor plus the link's one: replaced ports were closed.
+        QCOMPARE(descriptors_open_on(path), 2);
+        delete link;  // aborts with "destroyed while running" unless the thread was stopped
+        QCOMPARE(descriptors_open_on(path), 1);
     }
 };
 
