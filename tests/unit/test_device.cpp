@@ -291,7 +291,9 @@ private slots:
         }
         feeder_thread.quit();
         feeder_thread.wait();
-        QTRY_COMPARE(dev.type_id(), 14);
+        // Whether the ticks outran the answers (lost) or not, the next answer brings it back.
+        deliver(dev, answer(5, 0xD0, 14));
+        QCOMPARE(dev.type_id(), 14);
         dev.tick();
         QVERIFY(dev.current_panel());
     }
