@@ -1,0 +1,466 @@
+#include "main_window.h"
+
+#include "device_panel.h"
+#include "panel_registry.h"
+#include "serial_connector.h"
+#include "ui_main_window.h"
+
+#include <QCloseEvent>
+#include <QDebug>
+#include <QDir>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPixmap>
+#include <QSerialPortInfo>
+#include <QSettings>
+#include <QSpinBox>
+#include <QStyle>
+#include <QThread>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+const QString main_window::config_file = QStringLiteral("configs/config.ini");
+
+namespace {
+
+const char *const menu_selected_style =
+    "QPushButton{color: rgb(200, 0, 0);text-align: center;border: 0px solid gray;vertical-align: "
+    "bottom;} QPushButton:hover{text-align: center;color: rgb(120, 0, 0);border: 0px solid "
+    "gray;vertical-align: bottom;}";
+const char *const menu_plain_style =
+    "QPushButton{color: rgb(0, 0, 0);text-align: center;border: 0px solid gray;vertical-align: "
+    "bottom;} QPushButton:hover{text-align: center;color: rgb(120, 0, 0);border: 0px solid "
+    "gray;vertical-align: bottom;}";
+
+// Header colour, logo and logo size of each brand; the last row is every other brand.
+struct brand_look {
+    const char *brand;
+    const char *header_style;
+    const char *logo;
+    int logo_width;
+    int logo_height;
+};
+const brand_look brand_looks[] = {
+    {"Skarnova", "QWidget {\n\tbackground-color: rgb(67, 55, 121);\n}",
+     ":/interface/SkarN_logo.png", 273, 60},
+    {"Quibrel", "QWidget {\n\tbackground-color: rgb(60, 145, 136);\n}",
+     ":/interface/quibrel_logo_PNG.png", 215, 60},
+    {"Veltrano", "QWidget {\n\tbackground-color: rgb(35, 39, 215);\n}",
+     ":/interface/veltrano.png", 273, 35},
+    {nullptr, "QWidget {\n\tbackground-color: rgb(76, 109, 128);\n}",
+     ":/interface/power_version.png", 128, 95},
+};
+// The generic build's header grows to hold its taller logo.
+constexpr int generic_header_max_height = 107;
+
+constexpr int min_can_id = 1;
+constexpr int max_can_id = 255;
+
+QString key(const char *prefix, int n) { return QLatin1String(prefix) + QString::number(n); }
+
+}  // namespace
+
+main_window::main_window(const QString &brand, const panel_registry *registry, QWidget *parent)
+    : QMainWindow(parent),
+      ui(new Ui::main_window),
+      brand_(brand),
+      registry_(registry),
+      list_ports_(&main_window::system_ports) {
+    ui->setupUi(this);
+    ui->serial_refresh_button->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
+
+    const QString commit = QString::fromLatin1(build_info::commit);
+    ui->help_text->clear();
+    ui->help_text->appendPlainText(brand_ + QStringLiteral("\rLumivox\r\rVersion ") +
+                                   QStringLiteral("\rSHA1 = ") + commit + QStringLiteral("\r"));
+
+    // The link has no parent: it lives in a thread of its own and is deleted by the destructor.
+    serial_ = new serial_connector;
+    connect(this, &main_window::sig_init_connection, serial_, &serial_connector::sl_init_connection);
+    connect(this, &main_window::sig_disconnect, serial_, &serial_connector::sl_serial_disconnect);
+    connect(serial_, &serial_connector::sig_connected, this, &main_window::sl_serial_connected);
+    connect(serial_, &serial_connector::sig_disconnected, this,
+            &main_window::sl_serial_disconnected);
+    connect(serial_, &serial_connector::sig_tearing, this, &main_window::sl_tearing);
+    connect(this, &main_window::sig_send_command, serial_, &serial_connector::sl_send_string);
+
+    apply_brand();
+
+    ui->device_table->installEventFilter(this);
+    show_emission(false);
+
+    poll_timer_ = new QTimer(this);
+    connect(poll_timer_, &QTimer::timeout, serial_, &serial_connector::sl_sender);
+    poll_timer_->start(poll_interval_ms);
+
+    installEventFilter(this);
+
+    reconnect_timer_ = new QTimer(this);
+    reconnect_timer_->setSingleShot(true);
+    reconnect_timer_->setTimerType(Qt::PreciseTimer);
+    connect(reconnect_timer_, &QTimer::timeout, this, &main_window::reconnect_due);
+}
+
+main_window::~main_window() {
+    poll_timer_->stop();
+    reconnect_timer_->stop();
+    // Both stop their threads and wait for them: the link first, so that no line reaches a
+    // device being deleted.
+    delete serial_;
+    serial_ = nullptr;
+    delete_devices();
+    delete ui;
+}
+
+void main_window::apply_brand() {
+    const brand_look *look = std::begin(brand_looks);
+    while (look->brand && brand_ != QLatin1String(look->brand)) {
+        ++look;
+    }
+    ui->header_widget->setStyleSheet(QString::fromUtf8(look->header_style));
+    ui->logo_label->setPixmap(QPixmap(QString::fromUtf8(look->logo)));
+    const QSize logo_size(look->logo_width, look->logo_height);
+    ui->logo_label->setMinimumSize(logo_size);
+    ui->logo_label->setMaximumSize(logo_size);
+    if (look->brand) {
+        // The TTL tester is a workshop tool; the named brands ship without it.
+        ui->ttl_tester->hide();
+    } else {
+        ui->header_widget->setMaximumHeight(generic_header_max_height);
+    }
+}
+
+void main_window::set_port_lister(port_lister lister) { list_ports_ = std::move(lister); }
+
+QList<main_window::port_entry> main_window::system_ports() {
+    QList<port_entry> ports;
+    const QList<QSerialPortInfo> infos = QSerialPortInfo::availablePorts();
+    for (const QSerialPortInfo &info : infos) {
+        ports.append({info.portName(), info.description()});
+    }
+    return ports;
+}
+
+// ---- Configuration file and device table ---------------------------------------------------------
+
+void main_window::initialise_from_config() {
+    QSettings settings(config_file, QSettings::IniFormat);
+
+    ui->device_table->setColumnCount(2);
+    ui->device_table->setHorizontalHeaderLabels({tr("CAN ID"), tr("Device name")});
+    ui->device_table->horizontalHeader()->setStretchLastSection(true);
+
+    const QString port = settings.value(QStringLiteral("prev_port")).toString();
+    if (!port.isEmpty()) {
+        qDebug() << "saved writed" << port;
+        serial_->set_port_name(port);
+    }
+
+    const int count = settings.value(QStringLiteral("device_count")).toInt();
+    if (count > 0) {
+        ui->mini_usb_mode_checkbox->setChecked(settings.value(QStringLiteral("mini_usb_mode")).toBool());
+        for (int n = 0; n < count; ++n) {
+            const QString name = settings.value(key("name_device_", n)).toString();
+            const int can_id = settings.value(key("device_", n)).toInt();
+            create_device(can_id, name, n);
+        }
+    } else {
+        // First run (or an unusable file): one device at CAN ID 1, reached through mini USB.
+        ui->mini_usb_mode_checkbox->setChecked(true);
+        create_device(1, QStringLiteral("name"), 0);
+    }
+    for (const device *dev : qAsConst(devices_)) {
+        add_table_row(dev->can_id(), dev->name());
+    }
+
+    if (settings.value(QStringLiteral("autoconnection_mode")).toBool()) {
+        ui->autoconnection_checkbox->setChecked(true);
+        on_connect_button_clicked();
+    }
+
+    QThread::msleep(startup_pause_ms);
+    on_serial_refresh_button_clicked();
+    ui->version_label->setText(QStringLiteral("v5.") +
+                               QString::fromLatin1(build_info::commit).left(6) +
+                               QStringLiteral(" "));
+}
+
+void main_window::save_config() const {
+    QDir().mkpath(QFileInfo(config_file).path());
+    QSettings settings(config_file, QSettings::IniFormat);
+    settings.clear();
+    settings.setValue(QStringLiteral("prev_port"), serial_->port_name());
+    settings.setValue(QStringLiteral("mini_usb_mode"), ui->mini_usb_mode_checkbox->isChecked());
+    settings.setValue(QStringLiteral("autoconnection_mode"),
+                      ui->autoconnection_checkbox->isChecked());
+    settings.setValue(QStringLiteral("device_count"), devices_.size());
+    for (int n = 0; n < devices_.size(); ++n) {
+        settings.setValue(key("device_", n), devices_.at(n)->can_id());
+        settings.setValue(key("name_device_", n), devices_.at(n)->name());
+    }
+    settings.sync();
+}
+
+void main_window::create_device(int can_id, const QString &name, int slot) {
+    auto *dev = new device(this, registry_);
+    dev->set_can_id(can_id);
+    dev->set_name(name);
+    // The mode counts when the device is created; ticking the box later changes nothing here.
+    dev->set_accept_any_sender(ui->mini_usb_mode_checkbox->isChecked());
+    dev->set_slot(slot);
+    connect(dev, &device::sig_send_command, serial_, &serial_connector::sl_send_string);
+    connect(dev, &device::sig_change_ui_widget, this, &main_window::sl_change_ui_widget);
+    connect(serial_, &serial_connector::sig_parse_received_message, dev,
+            &device::sl_d_data_received);
+
+    auto *container = new QWidget;
+    auto *layout = new QVBoxLayout(container);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    container->setContentsMargins(0, 0, 0, 0);
+    ui->devices_layout->addWidget(container);
+
+    devices_.append(dev);
+    containers_.append(container);
+}
+
+void main_window::delete_devices() {
+    for (int i = 0; i < devices_.size(); ++i) {
+        // Deleting a device deletes its panel and stops its thread.
+        delete devices_.at(i);
+        delete containers_.at(i);
+    }
+    devices_.clear();
+    containers_.clear();
+}
+
+void main_window::add_table_row(int can_id, const QString &name) {
+    const int row = ui->device_table->rowCount();
+    ui->device_table->insertRow(row);
+    auto *spin = new QSpinBox;
+    spin->setRange(min_can_id, max_can_id);
+    spin->setValue(can_id);
+    // The CAN ID must not change when the table is scrolled with the wheel over it.
+    spin->installEventFilter(this);
+    ui->device_table->setCellWidget(row, 0, spin);
+    ui->device_table->setItem(row, 1, new QTableWidgetItem(name));
+}
+
+void main_window::on_add_pb_clicked() {
+    const int rows = ui->device_table->rowCount();
+    int value = min_can_id;
+    if (rows > 0) {
+        const auto *last = qobject_cast<QSpinBox *>(ui->device_table->cellWidget(rows - 1, 0));
+        value = std::min(max_can_id, (last ? last->value() : 0) + 1);
+    }
+    add_table_row(value, QStringLiteral("Laser ") + QString::number(value));
+}
+
+void main_window::on_delete_row_pb_clicked() {
+    QItemSelectionModel *selection = ui->device_table->selectionModel();
+    while (selection->hasSelection()) {
+        const QModelIndexList cells = selection->selectedIndexes();
+        if (cells.isEmpty()) {
+            break;
+        }
+        ui->device_table->removeRow(cells.first().row());
+    }
+}
+
+void main_window::on_apply_pb_clicked() {
+    poll_timer_->stop();
+    delete_devices();
+    for (int row = 0; row < ui->device_table->rowCount(); ++row) {
+        const QTableWidgetItem *item = ui->device_table->item(row, 1);
+        const QString name = item ? item->text() : QString();
+        const auto *spin = qobject_cast<QSpinBox *>(ui->device_table->cellWidget(row, 0));
+        create_device(spin ? spin->value() : 0, name, row);
+        if (ui->mini_usb_mode_checkbox->isChecked()) {
+            // Through the mini USB cable there is only the one device.
+            break;
+        }
+    }
+    poll_timer_->start(poll_interval_ms);
+}
+
+void main_window::on_mini_usb_mode_checkbox_stateChanged(int arg1) {
+    const bool on = arg1 != Qt::Unchecked;
+    QTableWidget *table = ui->device_table;
+    if (table->rowCount() > 0) {
+        if (QWidget *first = table->cellWidget(0, 0)) {
+            first->setEnabled(!on);
+        }
+    }
+    for (int row = 1; row < table->rowCount(); ++row) {
+        table->setRowHidden(row, on);
+    }
+    ui->add_pb->setEnabled(!on);
+    ui->delete_row_pb->setEnabled(!on);
+}
+
+// ---- Pages ----------------------------------------------------------------------------------------
+
+void main_window::show_page(int index) {
+    ui->stackedWidget->setCurrentIndex(index);
+    QPushButton *const buttons[] = {ui->main_menu_butt, ui->main_menu_butt_2, ui->main_menu_butt_3};
+    for (int i = 0; i < 3; ++i) {
+        buttons[i]->setStyleSheet(QString::fromLatin1(i == index ? menu_selected_style
+                                                                 : menu_plain_style));
+    }
+}
+
+void main_window::on_main_menu_butt_clicked() { show_page(0); }
+void main_window::on_main_menu_butt_2_clicked() { show_page(1); }
+void main_window::on_main_menu_butt_3_clicked() { show_page(2); }
+
+// ---- Serial port ----------------------------------------------------------------------------------
+
+void main_window::on_serial_refresh_button_clicked() {
+    QComboBox *combo = ui->serial_combo_box;
+    combo->clear();
+    const QList<port_entry> ports = list_ports_ ? list_ports_() : QList<port_entry>();
+    for (const port_entry &port : ports) {
+        combo->addItem(QStringLiteral("\"") + port.description + QStringLiteral("\" ") + port.name,
+                       port.name);
+    }
+    combo->setCurrentIndex(combo->findData(serial_->port_name(), Qt::UserRole,
+                                           Qt::MatchExactly | Qt::MatchCaseSensitive));
+}
+
+void main_window::on_serial_combo_box_activated(int index) {
+    serial_->set_port_name(ui->serial_combo_box->itemData(index).toString());
+}
+
+void main_window::on_connect_button_clicked() {
+    if (ui->connect_button->text() == tr("Connect")) {
+        last_attempt_.start();
+        emit sig_init_connection(serial_->port_name());
+    } else {
+        emit sig_disconnect();
+    }
+}
+
+void main_window::sl_serial_connected() {
+    reconnect_timer_->stop();
+    ui->connect_button->setCheckable(true);
+    ui->connect_button->setChecked(true);
+    ui->connect_button->setText(tr("Disconnect"));
+    ui->devices_widget->setEnabled(true);
+    ui->connection_status_label->setText(tr("Connection status: CONNECTED"));
+    ui->serial_combo_box->setEnabled(false);
+}
+
+void main_window::sl_serial_disconnected() {
+    ui->connect_button->setChecked(false);
+    ui->connect_button->setCheckable(false);
+    ui->connect_button->setText(tr("Connect"));
+    ui->devices_widget->setEnabled(false);
+    ui->connection_status_label->setText(tr("Connection status: DISCONNECTED"));
+    if (ui->autoconnection_checkbox->isChecked()) {
+        ui->serial_combo_box->setEnabled(false);
+        reconnect_later();
+    } else {
+        ui->serial_combo_box->setEnabled(true);
+    }
+}
+
+void main_window::reconnect_later() {
+    // Every disconnection starts the next attempt, but never sooner than the gap after the last
+    // one: a port that fails at once would otherwise be retried in a tight loop.
+    const qint64 since = last_attempt_.isValid() ? last_attempt_.elapsed() : reconnect_gap_ms;
+    if (since >= reconnect_gap_ms) {
+        on_connect_button_clicked();
+    } else {
+        reconnect_timer_->start(static_cast<int>(reconnect_gap_ms - since));
+    }
+}
+
+void main_window::reconnect_due() {
+    if (ui->connect_button->text() != tr("Connect")) {
+        return;  // connected meanwhile (the operator clicked Connect)
+    }
+    if (ui->autoconnection_checkbox->isChecked()) {
+        on_connect_button_clicked();
+    } else {
+        // Automatic connection was switched off while waiting: the port may be chosen again.
+        ui->serial_combo_box->setEnabled(true);
+    }
+}
+
+// ---- Polling cycle --------------------------------------------------------------------------------
+
+void main_window::sl_tearing() {
+    if (!devices_.isEmpty()) {
+        if (tearing_index_ > devices_.size() - 1) {
+            tearing_index_ = 0;
+        }
+        devices_.at(tearing_index_)->tick();
+        ++tearing_index_;
+    }
+    int emission_sum = 0;
+    for (const device *dev : qAsConst(devices_)) {
+        emission_sum += dev->emission_state();
+    }
+    show_emission(emission_sum >= 1);
+}
+
+void main_window::show_emission(bool on) {
+    ui->emit_on->setVisible(on);
+    ui->emit_off->setVisible(!on);
+    ui->emission_label->setText(on ? tr("Emission: ON") : tr("Emission: OFF"));
+}
+
+void main_window::sl_change_ui_widget(device *dev, int slot) {
+    qDebug().noquote() << QStringLiteral("popped ") + QString::number(dev->can_id());
+    device_panel *panel = dev->current_panel();
+    if (!panel || slot < 0 || slot >= containers_.size()) {
+        return;
+    }
+    containers_.at(slot)->layout()->addWidget(panel);
+    connect(dev, &device::sig_refresh_state, panel, &device_panel::sl_refresh_state);
+}
+
+// ---- TTL tester -----------------------------------------------------------------------------------
+
+void main_window::on_pushButton_clicked() {
+    emit sig_send_command(QStringLiteral("FREQ_TTL ") +
+                          QString::number(ui->freq_spin->value(), 'f', 0) + QStringLiteral("\r"));
+}
+
+void main_window::on_pushButton_2_clicked() {
+    emit sig_send_command(QStringLiteral("PW_TTL ") + QString::number(ui->pw_spin->value(), 'f', 0) +
+                          QStringLiteral("\r"));
+}
+
+void main_window::on_pushButton_3_clicked() {
+    // The click toggles the button before this runs, so the first press sends the stop command and
+    // leaves "START", the second starts the pulse train. This pairing is deliberate.
+    if (!ui->pushButton_3->isChecked()) {
+        emit sig_send_command(QStringLiteral("Start_TTL\r"));
+        ui->pushButton_3->setText(tr("STOP"));
+    } else {
+        emit sig_send_command(QStringLiteral("Stop_TTL\r"));
+        ui->pushButton_3->setText(tr("START"));
+    }
+}
+
+// ---- Events ---------------------------------------------------------------------------------------
+
+bool main_window::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::Wheel) {
+        qDebug() << "Wheel event blocked";
+        return true;
+    }
+    if (watched == ui->device_table && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Delete) {
+        on_delete_row_pb_clicked();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void main_window::closeEvent(QCloseEvent *event) {
+    save_config();
+    QMainWindow::closeEvent(event);
+}
