@@ -1,0 +1,126 @@
+#include "cw_driver_base.h"
+
+#include "scaling.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+cw_driver_base::cw_driver_base(QWidget *parent, const resolution &res)
+    : panel_base(parent), res_(res) {}
+
+void cw_driver_base::setup_driver(const widgets &form, const poll_plan &plan,
+                                  const parameter_list &parameters) {
+    w_ = form;
+    set_poll_plan(plan);
+    set_parameters(parameters);
+
+    bind_emission(emission_code + 128, w_.power_state_label,
+                  {w_.on_off_button, w_.start_stop_button_alt}, {emission_code});
+    bind_tec(tec_code, tec_code + 128, w_.chb_tec);
+    bind_reading(current_code + 128, &current_, res_.current_divisor);
+    bind_reading(temperature_code + 128, &temperature_, res_.temperature_divisor);
+    bind_reading(power_report, &power_, res_.power_divisor);
+    bind_state(mode_code + 128, &mode_);
+
+    bind_setpoint(w_.spin, [this] { confirm_main_setpoint(); });
+    bind_setpoint(w_.spin_temp, temperature_code, res_.temperature_scale, &temperature_text_,
+                  res_.temperature_decimals);
+    block_wheel(w_.mode);
+    block_wheel(w_.step_size_combo);
+
+    // The initial step is the first item, 0.1.
+    w_.step_size_combo->setCurrentIndex(0);
+    on_step_size_combo_activated(0);
+}
+
+void cw_driver_base::confirm_main_setpoint() {
+    const double value = w_.spin->value();
+    if (power_mode()) {
+        power_text_ = QString::number(value, 'f', res_.power_decimals);
+        queue_command(power_code, scaling::to_wire(value, res_.power_scale));
+    } else {
+        current_text_ = QString::number(value, 'f', res_.current_decimals);
+        queue_command(current_code, scaling::to_wire(value, res_.current_scale));
+    }
+}
+
+void cw_driver_base::on_on_off_button_clicked(bool checked) { emission_switch_clicked(checked); }
+
+void cw_driver_base::on_mode_activated(int index) { queue_command(mode_code, index); }
+
+void cw_driver_base::on_step_size_combo_activated(int /*index*/) {
+    w_.spin->setSingleStep(w_.step_size_combo->currentText().toDouble());
+}
+
+void cw_driver_base::on_chb_tec_clicked(bool checked) { queue_tec(checked); }
+
+void cw_driver_base::refresh_display() {
+    if (power_mode()) {
+        w_.spin_label->setText(tr("Optical Power"));
+        show_limits(w_.spin, w_.curr_max_label, w_.curr_min_label, parameter_value(power_max),
+                    parameter_value(power_min), res_.power_decimals);
+    } else {
+        w_.spin_label->setText(tr("Drive Current"));
+        show_limits(w_.spin, w_.curr_max_label, w_.curr_min_label, parameter_value(current_max),
+                    parameter_value(current_min), res_.current_decimals);
+    }
+    const QString suffix = power_mode() ? QStringLiteral(" mW") : QStringLiteral(" mA");
+    if (w_.spin->suffix() != suffix) {
+        w_.spin->setSuffix(suffix);
+    }
+    show_limits(w_.spin_temp, w_.temp_max_label, w_.temp_min_label,
+                parameter_value(temperature_max), parameter_value(temperature_min),
+                res_.temperature_decimals);
+
+    // The current bar follows the current limits in every mode.
+    show_indicator(w_.indicator, current_, parameter_value(current_min),
+                   parameter_value(current_max));
+    show_indicator(w_.tem_indicator, temperature_, parameter_value(temperature_min),
+                   parameter_value(temperature_max));
+
+    const int decimals = res_.value_decimals;
+    if (current_ != -1.0) {
+        w_.current_ld_label->setText(QString::number(current_, 'f', decimals) + tr(" mA"));
+    }
+    if (temperature_ != -1.0) {
+        w_.temp_label->setText(QString::number(temperature_, 'f', decimals) + tr(" °C"));
+    }
+    if (power_ != -1.0) {
+        w_.power_label->setText(QString::number(power_, 'f', decimals) + tr(" mW"));
+    }
+    if (mode_ >= 0 && mode_ < w_.mode->count()) {
+        w_.mode_label->setText(w_.mode->itemText(mode_));
+    }
+}
+
+bool cw_driver_base::load_setpoints() {
+    bool complete = true;
+    const double main = power_mode() ? power_ : current_;
+    if (main != -1.0) {
+        w_.spin->setValue(main);
+    } else {
+        complete = false;
+    }
+    if (temperature_ != -1.0) {
+        w_.spin_temp->setValue(temperature_);
+    } else {
+        complete = false;
+    }
+    if (mode_ >= 0 && mode_ < w_.mode->count()) {
+        w_.mode->setCurrentIndex(mode_);
+    } else {
+        complete = false;
+    }
+    return complete;
+}
+
+QString cw_driver_base::header_summary() const {
+    const QString main = power_mode() ? power_text_ + QLatin1Char('/') + w_.power_label->text()
+                                      : current_text_ + QLatin1Char('/') +
+                                            w_.current_ld_label->text();
+    return main + QLatin1Char(' ') + temperature_text_ + QLatin1Char('/') + w_.temp_label->text();
+}

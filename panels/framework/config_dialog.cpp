@@ -1,0 +1,84 @@
+#include "config_dialog.h"
+
+#include "panel_style.h"
+
+#include <QDoubleSpinBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+config_dialog::config_dialog(const QString &display_name, const parameter_list &parameters,
+                             double unknown_mark, const QString &unknown_text, const QString &hint)
+    : QDialog(nullptr), unknown_mark_(unknown_mark), unknown_text_(unknown_text) {
+    setWindowTitle(display_name + tr(" configuration"));
+    setWindowIcon(QIcon(QStringLiteral(":/interface/conf_icon.ico")));
+    setMinimumWidth(500);
+    setMaximumWidth(500);
+    setModal(true);
+
+    auto *outer = new QVBoxLayout(this);
+    auto *group = new QGroupBox(this);
+    group->setObjectName(QStringLiteral("config_group"));
+    group->setStyleSheet(panel_style::dialog_group());
+    outer->addWidget(group);
+
+    auto *rows = new QVBoxLayout(group);
+    auto *note = new QLabel(tr("Device reset is nessesary after CAN ID change"), group);
+    note->setObjectName(QStringLiteral("reset_note"));
+    rows->addWidget(note);
+    if (!hint.isEmpty()) {
+        auto *hint_label = new QLabel(hint, group);
+        hint_label->setObjectName(QStringLiteral("hint_label"));
+        hint_label->setWordWrap(true);
+        rows->addWidget(hint_label);
+    }
+
+    for (const parameter_record &record : parameters) {
+        auto *row = new QHBoxLayout;
+        auto *label = new QLabel(record.label, group);
+        auto *value = new QLabel(value_text(record), group);
+        value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        auto *spin = new QDoubleSpinBox(group);
+        spin->setMaximum(4294967295.0);
+        spin->setDecimals(record.decimals);
+        spin->setSingleStep(record.step);
+        spin->setValue(record.value);
+        spin->setObjectName(record.label);
+        row->addWidget(label, 3);
+        row->addWidget(value, 2);
+        row->addWidget(spin, 2);
+        rows->addLayout(row);
+        value_labels_.append(value);
+        spin_boxes_.append(spin);
+    }
+
+    auto *buttons = new QHBoxLayout;
+    close_button_ = new QPushButton(tr("Close"), this);
+    close_button_->setObjectName(QStringLiteral("close_button"));
+    write_button_ = new QPushButton(tr("Write"), this);
+    write_button_->setObjectName(QStringLiteral("write_button"));
+    write_button_->setAutoDefault(false);
+    close_button_->setAutoDefault(false);
+    buttons->addStretch();
+    buttons->addWidget(close_button_);
+    buttons->addWidget(write_button_);
+    outer->addLayout(buttons);
+
+    connect(close_button_, &QPushButton::clicked, this, &QDialog::close);
+}
+
+void config_dialog::show_values(const parameter_list &parameters) {
+    for (int i = 0; i < value_labels_.size() && i < parameters.size(); ++i) {
+        value_labels_[i]->setText(value_text(parameters[i]));
+    }
+}
+
+QString config_dialog::value_text(const parameter_record &record) const {
+    if (record.value == unknown_mark_) {
+        return unknown_text_;
+    }
+    return QString::number(record.value, 'f', record.decimals);
+}

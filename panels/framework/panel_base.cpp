@@ -1,0 +1,443 @@
+#include "panel_base.h"
+
+#include "config_dialog.h"
+#include "message_route.h"
+#include "panel_style.h"
+#include "scaling.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QCheckBox>
+#include <QDoubleSpinBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QToolButton>
+#include <QtDebug>
+
+namespace {
+
+// Readings (as opposed to parameters) are unknown while they hold -1.0 in every panel.
+bool reading_known(double value) { return value != -1.0; }
+
+}  // namespace
+
+panel_base::panel_base(QWidget *parent) : device_panel(parent) {}
+
+QString panel_base::usb_can_id_hint() {
+    return tr(
+        "To be able to configure device CAN ID in the device parameters window please make sure, "
+        "that your PC is connected directly to driver board via mini-USB cable, and \"mini USB "
+        "mode\" is set in Settings tab.");
+}
+
+panel_base::~panel_base() { delete dialog_.data(); }
+
+void panel_base::set_display_name(const QString &name) {
+    device_panel::set_display_name(name);
+    refresh_header();
+}
+
+void panel_base::set_type_name(const QString &name) {
+    device_panel::set_type_name(name);
+    if (name_label_) {
+        name_label_->setText(name);
+    }
+}
+
+void panel_base::set_parameters(const parameter_list &parameters) {
+    parameters_ = parameters;
+    for (parameter_record &record : parameters_) {
+        record.value = plan_.unknown_mark;
+    }
+}
+
+void panel_base::remove_parameter(int position) {
+    if (position >= 0 && position < parameters_.size()) {
+        parameters_.remove(position);
+    }
+}
+
+QList<QWidget *> panel_base::setpoint_widgets() const {
+    QList<QWidget *> sending;
+    for (QWidget *widget : setpoint_order_) {
+        if (setpoints_.value(widget)) {
+            sending.append(widget);
+        }
+    }
+    return sending;
+}
+
+config_dialog *panel_base::configuration_dialog() const { return dialog_.data(); }
+
+bool panel_base::body_shown() const { return body_ && !body_->isHidden(); }
+
+// --- Sending ----------------------------------------------------------------------------------
+
+void panel_base::queue_command(int code, long value) { queue_.append(panel_command{code, value}); }
+
+void panel_base::sl_refresh_state() {
+    if (!queue_.isEmpty()) {
+        const panel_command head = queue_.takeFirst();
+        emit sig_w_send_command(head.code, head.value);
+        return;
+    }
+    if (const std::optional<int> code = poll_step(plan_, parameters_, poll_index_)) {
+        emit sig_w_send_command(*code, 0);
+    }
+}
+
+void panel_base::emission_switch_clicked(bool checked) {
+    for (int code : emission_write_codes_) {
+        queue_command(code, checked ? 1 : 0);
+    }
+}
+
+void panel_base::on_start_stop_button_alt_clicked(bool checked) { emission_switch_clicked(checked); }
+
+void panel_base::queue_tec(bool on) {
+    if (tec_write_code_ >= 0) {
+        queue_command(tec_write_code_, on ? 1 : 0);
+    }
+}
+
+// --- Receiving --------------------------------------------------------------------------------
+
+void panel_base::bind_reading(int code, double *field, double divisor) {
+    bind_reply(code, [field, divisor](long value) { *field = static_cast<double>(value) / divisor; });
+}
+
+void panel_base::bind_state(int code, int *field) {
+    bind_reply(code, [field](long value) { *field = static_cast<int>(value); });
+}
+
+void panel_base::bind_reply(int code, std::function<void(long)> handler) {
+    reply_handlers_[code].append(std::move(handler));
+}
+
+void panel_base::bind_emission(int report_code, QLabel *state_label,
+                               QList<QAbstractButton *> switches, QVector<int> write_codes) {
+    emission_label_ = state_label;
+    emission_switches_ = std::move(switches);
+    emission_write_codes_ = std::move(write_codes);
+    bind_reply(report_code, [this](long value) {
+        emission_on_ = value != 0;
+        if (emission_label_) {
+            emission_label_->setText(emission_on_ ? tr("ON") : tr("OFF"));
+        }
+        // setChecked() does not emit clicked(): reflecting the report sends nothing.
+        for (QAbstractButton *button : emission_switches_) {
+            button->setChecked(emission_on_);
+        }
+        emit send_emission(emission_on_ ? 1 : 0);
+    });
+}
+
+void panel_base::bind_tec(int write_code, int report_code, QCheckBox *box) {
+    tec_box_ = box;
+    tec_write_code_ = write_code;
+    bind_reply(report_code, [this](long value) {
+        tec_state_ = static_cast<int>(value);
+        tec_box_->setChecked(tec_state_ != 0);
+    });
+}
+
+void panel_base::bind_alarm(int report_code, const QStringList &texts, QList<QWidget *> widgets,
+                            int initial_word) {
+    alarm_texts_ = texts;
+    alarm_widgets_ = std::move(widgets);
+    alarm_word_ = initial_word;
+    bind_state(report_code, &alarm_word_);
+}
+
+void panel_base::sl_parsed_data_received(int code, long value) {
+    const auto handlers = reply_handlers_.value(code);
+    for (const auto &handler : handlers) {
+        handler(value);
+    }
+    take_parameter_report(code, value);
+    refresh();
+}
+
+void panel_base::take_parameter_report(int code, long value) {
+    for (parameter_record &record : parameters_) {
+        if (record.code + 128 == code) {
+            record.value = static_cast<double>(value) / scaling::pow10(record.decimals);
+        }
+    }
+}
+
+double panel_base::parameter_value(int position) const {
+    if (position < 0 || position >= parameters_.size()) {
+        return plan_.unknown_mark;
+    }
+    return parameters_[position].value;
+}
+
+double panel_base::parameter_by_code(int code) const {
+    for (const parameter_record &record : parameters_) {
+        if (record.code == code) {
+            return record.value;
+        }
+    }
+    return plan_.unknown_mark;
+}
+
+bool panel_base::all_parameters_known() const {
+    for (const parameter_record &record : parameters_) {
+        if (plan_.is_unknown(record.value)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void panel_base::mark_parameters_unknown() {
+    for (parameter_record &record : parameters_) {
+        record.value = plan_.unknown_mark;
+    }
+}
+
+// --- Display ----------------------------------------------------------------------------------
+
+bool panel_base::configuration_allowed() const {
+    return !emission_on_ && (tec_box_ == nullptr || tec_state_ == 0);
+}
+
+void panel_base::refresh() {
+    refresh_display();
+    for (QWidget *widget : qAsConst(alarm_widgets_)) {
+        widget->setVisible(alarm_word_ != 0);
+    }
+    if (tool_button_) {
+        tool_button_->setEnabled(all_parameters_known() && configuration_allowed());
+    }
+    if (name_label_) {
+        name_label_->setText(type_name());
+    }
+    if (first_sync_pending_ && all_parameters_known()) {
+        first_sync_pending_ = !load_setpoints();
+    }
+    refresh_header();
+    if (dialog_) {
+        dialog_->show_values(parameters_);
+    }
+}
+
+void panel_base::refresh_header() {
+    if (!tab_button_) {
+        return;
+    }
+    QString text = display_name();
+    if (body_ && body_->isHidden()) {
+        const QString summary = header_summary();
+        if (!summary.isEmpty()) {
+            text += QStringLiteral(" (") + summary + QLatin1Char(')');
+        }
+    }
+    tab_button_->setText(text);
+}
+
+void panel_base::show_limits(QDoubleSpinBox *spin, QLabel *max_label, QLabel *min_label,
+                             double high, double low, int decimals) const {
+    if (is_known(high)) {
+        spin->setMaximum(high);
+        max_label->setText(QString::number(high, 'f', decimals));
+    }
+    if (is_known(low)) {
+        spin->setMinimum(low);
+        min_label->setText(QString::number(low, 'f', decimals));
+    }
+}
+
+void panel_base::show_indicator(QProgressBar *bar, double value, double low, double high) const {
+    std::optional<int> share;
+    if (reading_known(value) && is_known(low) && is_known(high)) {
+        share = scaling::percent(value, low, high);
+    }
+    if (!share) {
+        bar->reset();
+        return;
+    }
+    bar->setValue(qBound(bar->minimum(), *share, bar->maximum()));
+}
+
+void panel_base::on_laser_tab_button_clicked() {
+    if (body_) {
+        body_->setHidden(!body_->isHidden());
+    }
+    refresh_header();
+}
+
+void panel_base::show_alarm_details() {
+    QString text;
+    for (int bit = 0; bit < 16; ++bit) {
+        if ((alarm_word_ & (1 << bit)) && bit < alarm_texts_.size()) {
+            text += alarm_texts_[bit] + QLatin1Char('\n');
+        }
+    }
+    inform(this, tr("WARNING"), text);
+}
+
+// --- Set-points and wheel ---------------------------------------------------------------------
+
+void panel_base::block_wheel(QWidget *widget) {
+    if (!watched_.contains(widget)) {
+        watched_.append(widget);
+        widget->installEventFilter(this);
+    }
+}
+
+void panel_base::bind_setpoint(QWidget *widget, std::function<void()> on_yes) {
+    setpoints_.insert(widget, std::move(on_yes));
+    setpoint_order_.append(widget);
+    block_wheel(widget);
+    if (qobject_cast<QAbstractSpinBox *>(widget)) {
+        widget->setStyleSheet(panel_style::setpoint());
+    }
+}
+
+void panel_base::bind_setpoint(QDoubleSpinBox *spin, int code, double scale, QString *kept_text,
+                               int text_decimals) {
+    bind_setpoint(spin, [this, spin, code, scale, kept_text, text_decimals] {
+        const double value = spin->value();
+        if (kept_text) {
+            *kept_text = QString::number(value, 'f', text_decimals);
+        }
+        queue_command(code, scaling::to_wire(value, scale));
+    });
+}
+
+bool panel_base::eventFilter(QObject *watched, QEvent *event) {
+    auto *widget = qobject_cast<QWidget *>(watched);
+    if (event->type() == QEvent::Wheel && watched_.contains(widget)) {
+        qDebug("Wheel event blocked");
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && setpoints_.contains(widget)) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            // Take what is typed so far, as the spin box itself does on Enter.
+            if (auto *spin = qobject_cast<QAbstractSpinBox *>(widget)) {
+                spin->interpretText();
+            }
+            if (confirm(this, tr("Conformation"),
+                        tr("Send command on ") + display_name() + QLatin1Char('?'))) {
+                if (const std::function<void()> action = setpoints_.value(widget)) {
+                    action();
+                }
+            }
+        }
+        // The key press goes on to the widget either way.
+    }
+    return device_panel::eventFilter(watched, event);
+}
+
+// --- Configuration dialog ---------------------------------------------------------------------
+
+void panel_base::on_toolButton_clicked() {
+    if (!dialog_available_) {
+        return;
+    }
+    delete dialog_.data();
+    auto *dialog = new config_dialog(display_name(), parameters_, plan_.unknown_mark,
+                                     dialog_unknown_text_, dialog_hint_);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog_ = dialog;
+    // Connected after the values are set, so building the dialog sends nothing.
+    if (live_change_) {
+        for (QDoubleSpinBox *spin : dialog->spin_boxes()) {
+            connect(spin, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+                    &panel_base::on_pref_changed);
+        }
+    }
+    connect(dialog->write_button(), &QPushButton::clicked, this, &panel_base::close_prefs_dialog);
+    dialog->show();
+}
+
+void panel_base::on_pref_changed(double value) {
+    const QObject *spin = sender();
+    if (!spin) {
+        return;
+    }
+    for (const parameter_record &record : qAsConst(parameters_)) {
+        if (record.label == spin->objectName()) {
+            queue_command(record.code, scaling::to_wire(value, scaling::pow10(record.decimals)));
+            queue_read(record.code);
+            return;
+        }
+    }
+}
+
+void panel_base::close_prefs_dialog() {
+    if (!dialog_) {
+        return;
+    }
+    const QList<QDoubleSpinBox *> &spins = dialog_->spin_boxes();
+    const int rows = qMin(spins.size(), parameters_.size());
+    for (int i = 0; i < rows; ++i) {
+        const parameter_record &record = parameters_[i];
+        queue_command(record.code,
+                      scaling::to_wire(spins[i]->value(), scaling::pow10(record.decimals)));
+    }
+    for (int i = 0; i < rows; ++i) {
+        queue_read(parameters_[i].code);
+    }
+    for (const panel_command &command : qAsConst(store_commands_)) {
+        queue_.append(command);
+    }
+}
+
+// --- Set-up -----------------------------------------------------------------------------------
+
+void panel_base::finish_setup(QWidget *body) {
+    body_ = body;
+    tab_button_ = findChild<QPushButton *>(QStringLiteral("laser_tab_button"));
+    name_label_ = findChild<QLabel *>(QStringLiteral("laser_name_label"));
+    tool_button_ = findChild<QToolButton *>(QStringLiteral("toolButton"));
+    auto *header_switch = findChild<QPushButton *>(QStringLiteral("start_stop_button_alt"));
+    const struct {
+        const char *name;
+        const void *widget;
+    } required[] = {{"laser_tab_button", tab_button_},
+                    {"laser_name_label", name_label_},
+                    {"toolButton", tool_button_},
+                    {"start_stop_button_alt", header_switch},
+                    {"body", body_}};
+    for (const auto &item : required) {
+        if (!item.widget) {
+            qWarning("%s: the form has no %s", metaObject()->className(), item.name);
+        }
+    }
+
+    if (tab_button_) {
+        tab_button_->setStyleSheet(panel_style::header_button());
+    }
+    if (header_switch) {
+        header_switch->setStyleSheet(panel_style::header_switch());
+    }
+    for (const char *name : {"on_off_button", "pb_on_off"}) {
+        if (auto *button = findChild<QPushButton *>(QLatin1String(name))) {
+            button->setStyleSheet(panel_style::body_switch());
+        }
+    }
+    for (QProgressBar *bar : findChildren<QProgressBar *>()) {
+        bar->setStyleSheet(panel_style::indicator());
+    }
+    if (auto *frame = findChild<QGroupBox *>(QStringLiteral("groupBox"))) {
+        frame->setStyleSheet(panel_style::panel_frame());
+    }
+    if (tool_button_) {
+        QIcon icon;
+        icon.addFile(QStringLiteral(":/interface/conf_icon.png"), QSize(), QIcon::Normal);
+        icon.addFile(QStringLiteral(":/interface/conf_icon_disabled.png"), QSize(),
+                     QIcon::Disabled);
+        tool_button_->setIcon(icon);
+        tool_button_->setVisible(dialog_available_);
+    }
+    refresh();
+}

@@ -1,0 +1,216 @@
+#pragma once
+
+#include "device_panel.h"
+#include "parameter_record.h"
+#include "poll_plan.h"
+
+#include <QHash>
+#include <QList>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+class QAbstractButton;
+class QCheckBox;
+class QComboBox;
+class QDoubleSpinBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QToolButton;
+class config_dialog;
+
+// One command for the device: write (code, value), or read (code + 128, 0).
+struct panel_command {
+    int code = 0;
+    long value = 0;
+    bool operator==(const panel_command &other) const {
+        return code == other.code && value == other.value;
+    }
+};
+
+// What every panel shares. A panel class describes itself with tables (poll plan, parameter list,
+// set-point and reply bindings, emission and alarm wiring) and adds only the behaviour that is its
+// own; this class then runs the command queue, the poll cycle, the read-back of parameters, the
+// configuration dialog, the Enter confirmation, wheel blocking, the alarm box, the collapsible
+// header and the first load of the set-points.
+//
+// Every panel form carries the header widgets `laser_tab_button`, `alt_but_widget` with
+// `start_stop_button_alt`, `laser_name_label` and `toolButton`; the slots below that the form
+// loader connects by name rely on them.
+class panel_base : public device_panel {
+    Q_OBJECT
+public:
+    ~panel_base() override;
+
+    void set_display_name(const QString &name) override;
+    void set_type_name(const QString &name) override;
+
+    // The description, read by the device set-up and by tests.
+    const poll_plan &plan() const { return plan_; }
+    const parameter_list &parameters() const { return parameters_; }
+    // Removes the parameter at `position` (device types that lack one).
+    void remove_parameter(int position);
+    // Commands that "Write" appends after the writes and read requests.
+    const QVector<panel_command> &store_commands() const { return store_commands_; }
+    bool has_configuration_dialog() const { return dialog_available_; }
+    config_dialog *configuration_dialog() const;
+    // Widgets on which Return/Enter asks for confirmation and, on Yes, sends.
+    QList<QWidget *> setpoint_widgets() const;
+    // Widgets whose wheel events are swallowed.
+    QList<QWidget *> wheel_blocked_widgets() const { return watched_; }
+    int queued_commands() const { return queue_.size(); }
+    bool body_shown() const;
+    bool emission_on() const { return emission_on_; }
+
+    // The note shown in the configuration dialog unless the panel gives its own: how to reach a
+    // device for changing its CAN id.
+    static QString usb_can_id_hint();
+
+public slots:
+    void sl_refresh_state() override;
+    void sl_parsed_data_received(int code, long value) override;
+    // The configuration dialog's "Write": every row written, every row read back, then the store
+    // commands.
+    void close_prefs_dialog();
+    void on_toolButton_clicked();
+    void on_laser_tab_button_clicked();
+    void on_start_stop_button_alt_clicked(bool checked);
+
+public:
+    // A configuration dialog spin box changed: write that parameter and read it back. Connected
+    // with a typed connection (the form loader would look for an object called "pref").
+    void on_pref_changed(double value);
+
+protected:
+    explicit panel_base(QWidget *parent);
+
+    // --- Description, given by the panel's constructor -----------------------------------------
+    void set_poll_plan(const poll_plan &plan) { plan_ = plan; }
+    void set_parameters(const parameter_list &parameters);
+    // The store command(s) after "Write" (default (82, 0)); live change off: dialog values are
+    // sent only by "Write".
+    void set_store_commands(const QVector<panel_command> &commands) { store_commands_ = commands; }
+    void set_live_change(bool on) { live_change_ = on; }
+    void set_dialog_available(bool available) { dialog_available_ = available; }
+    void set_dialog_hint(const QString &hint) { dialog_hint_ = hint; }
+    void set_dialog_unknown_text(const QString &text) { dialog_unknown_text_ = text; }
+
+    // Reply `code` stores value / divisor into `field`.
+    void bind_reading(int code, double *field, double divisor);
+    // Reply `code` stores the value as it is.
+    void bind_state(int code, int *field);
+    // Reply `code` runs `handler` (after the stored fields of the same code).
+    void bind_reply(int code, std::function<void(long)> handler);
+
+    // Emission: reply `report_code` sets `state_label` to "ON"/"OFF", checks the `switches`
+    // without sending and emits send_emission(); a switch click queues (code, on) for each of
+    // `write_codes` in order.
+    void bind_emission(int report_code, QLabel *state_label, QList<QAbstractButton *> switches,
+                       QVector<int> write_codes);
+    // TEC on/off: reply `report_code` checks `box`; clicking it queues (write_code, on). A TEC
+    // that is on keeps the configuration closed.
+    void bind_tec(int write_code, int report_code, QCheckBox *box);
+    // Alarm word: reply `report_code`; `widgets` are shown while the word is non-zero; bit i is
+    // named by texts[i] in the details box.
+    void bind_alarm(int report_code, const QStringList &texts, QList<QWidget *> widgets,
+                    int initial_word = 0);
+
+    // Return/Enter on `widget` asks "Send command on <name>?"; on Yes `on_yes` runs (empty: the
+    // box is asked and nothing is sent). Wheel events on `widget` are swallowed.
+    void bind_setpoint(QWidget *widget, std::function<void()> on_yes);
+    // The common case: on Yes queue (code, value × scale) and keep the value's text with
+    // `text_decimals` decimals in `kept_text` (when given).
+    void bind_setpoint(QDoubleSpinBox *spin, int code, double scale, QString *kept_text = nullptr,
+                       int text_decimals = 1);
+    // Only swallow wheel events on `widget`.
+    void block_wheel(QWidget *widget);
+
+    // Looks up the header widgets, applies the common look, and shows the initial state. The
+    // panel's constructor calls it last, with the widget that the header button collapses.
+    void finish_setup(QWidget *body);
+
+    // --- Behaviour the panel supplies -----------------------------------------------------------
+    // Labels, limits, indicators: everything of the refresh that is the panel's own.
+    virtual void refresh_display() {}
+    // First sync: load the set-point widgets from the reported values; true when every one was
+    // known (the load is then never repeated).
+    virtual bool load_setpoints() { return true; }
+    // Text between the brackets of the collapsed header; empty: the display name alone.
+    virtual QString header_summary() const { return {}; }
+    // Whether the configuration may be opened beside every parameter being known.
+    virtual bool configuration_allowed() const;
+    // An emission switch was clicked.
+    virtual void emission_switch_clicked(bool checked);
+
+    // --- Services -------------------------------------------------------------------------------
+    void queue_command(int code, long value);
+    void queue_read(int code) { queue_command(code + 128, 0); }
+    void queue_tec(bool on);
+    // Value of the parameter at `position`, or the unknown mark when there is none.
+    double parameter_value(int position) const;
+    // Value of the parameter with `code`, or the unknown mark when there is none.
+    double parameter_by_code(int code) const;
+    bool is_known(double value) const { return !plan_.is_unknown(value); }
+    bool all_parameters_known() const;
+    void mark_parameters_unknown();
+    int alarm_word() const { return alarm_word_; }
+    int tec_state() const { return tec_state_; }
+    // The alarm details box: the texts of the set bits 0 to 15, one per line; bits without a
+    // text are skipped.
+    void show_alarm_details();
+    // Sets the spin box's limits and the limit labels when both values are known.
+    void show_limits(QDoubleSpinBox *spin, QLabel *max_label, QLabel *min_label, double high,
+                     double low, int decimals) const;
+    // Sets an indicator bar to the truncated percentage of `value` between `low` and `high`;
+    // an unknown value or a zero span leaves the bar empty.
+    void show_indicator(QProgressBar *bar, double value, double low, double high) const;
+    // Runs the whole display refresh.
+    void refresh();
+    // The header button text for the current collapsed state.
+    void refresh_header();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void take_parameter_report(int code, long value);
+
+    poll_plan plan_;
+    parameter_list parameters_;
+    QVector<panel_command> queue_;
+    int poll_index_ = 0;
+    QVector<panel_command> store_commands_{{82, 0}};
+    bool live_change_ = true;
+    bool dialog_available_ = true;
+    QString dialog_hint_ = usb_can_id_hint();
+    QString dialog_unknown_text_ = QStringLiteral("N/A");
+    QPointer<config_dialog> dialog_;
+
+    QHash<int, QVector<std::function<void(long)>>> reply_handlers_;  // in binding order
+
+    QLabel *emission_label_ = nullptr;
+    QList<QAbstractButton *> emission_switches_;
+    QVector<int> emission_write_codes_;
+    bool emission_on_ = false;
+
+    QCheckBox *tec_box_ = nullptr;
+    int tec_write_code_ = -1;
+    int tec_state_ = -1;
+
+    QStringList alarm_texts_;
+    QList<QWidget *> alarm_widgets_;
+    int alarm_word_ = 0;
+
+    QHash<QWidget *, std::function<void()>> setpoints_;
+    QList<QWidget *> setpoint_order_;
+    QList<QWidget *> watched_;
+
+    bool first_sync_pending_ = true;
+    QWidget *body_ = nullptr;
+    QPushButton *tab_button_ = nullptr;
+    QLabel *name_label_ = nullptr;
+    QToolButton *tool_button_ = nullptr;
+};
