@@ -1,0 +1,454 @@
+// What the panel framework promises every panel, checked on every registered panel type, plus the
+// framework's pure parts (scaling, the poll step) on the shapes of poll plan the panels use.
+#include "config_dialog.h"
+#include "scaling.h"
+#include "test_panel_support.h"
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+using namespace panel_test;
+
+namespace {
+
+// A distinct, plausible raw value for the parameter at `position`.
+long raw_value(int position) { return 1000 + 37 * position; }
+
+// What one full cycle of `panel` should send, built from its plan: each fixed position (silent
+// ones and positions past the end of the list send nothing), then, when `with_unknown`, a read of
+// each parameter in list order.
+QVector<panel_command> expected_cycle(const panel_base &panel, bool with_unknown) {
+    const poll_plan &plan = panel.plan();
+    QVector<panel_command> cycle;
+    for (int position = 0; position < plan.first_unknown_position(); ++position) {
+        const int code = position < plan.read_codes.size() ? plan.read_codes[position]
+                                                            : poll_plan::silent;
+        cycle.append(code == poll_plan::silent ? nothing : panel_command{code, 0});
+    }
+    if (with_unknown) {
+        for (const parameter_record &record : panel.parameters()) {
+            cycle.append({record.code + 128, 0});
+        }
+    }
+    return cycle;
+}
+
+}  // namespace
+
+// A form whose by-name slot names a widget that does not exist.
+class misspelled_form : public QWidget {
+    Q_OBJECT
+public:
+    misspelled_form() {
+        auto *button = new QPushButton(this);
+        button->setObjectName(QStringLiteral("pb_alarm"));
+        QMetaObject::connectSlotsByName(this);
+    }
+public slots:
+    void on_pb_alarn_clicked() {}
+};
+
+class test_panel_framework : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<box_answerer> boxes;
+
+    void add_panel_types() {
+        QTest::addColumn<int>("type");
+        for (int type : panel_types()) {
+            QTest::newRow(qPrintable(QStringLiteral("type %1").arg(type))) << type;
+        }
+    }
+
+private slots:
+    void init() { boxes = std::make_unique<box_answerer>(); }
+    void cleanup() {
+        QVERIFY2(boxes->unexpected.isEmpty(), qPrintable(boxes->unexpected.join(" | ")));
+        QCOMPARE(boxes->pending(), 0);
+        boxes.reset();
+    }
+
+    void registry_has_the_cw_panels() {
+        const QList<int> types = panel_types();
+        for (int type : {14, 15, 34, 38}) {
+            QVERIFY2(types.contains(type), qPrintable(QString::number(type)));
+        }
+    }
+
+    // --- Construction ---------------------------------------------------------------------------
+
+    void building_prints_no_warning_data() { add_panel_types(); }
+    void building_prints_no_warning() {
+        QFETCH(int, type);
+        // Placed in a window as the program places it (a top-level window of its own would make
+        // the offscreen platform itself warn).
+        QWidget host;
+        warning_catcher catcher;
+        {
+            auto panel = make_panel(type, QStringLiteral("Seed"), &host);
+            QVERIFY(panel);
+            panel->on_laser_tab_button_clicked();
+            panel->on_laser_tab_button_clicked();
+        }
+        QVERIFY2(catcher.warnings.isEmpty(), qPrintable(catcher.warnings.join('\n')));
+    }
+
+    // The catcher sees what the form loader prints for a misspelled by-name slot.
+    void warning_catcher_sees_a_misspelled_slot() {
+        warning_catcher catcher;
+        QTest::ignoreMessage(QtWarningMsg, "QMetaObject::connectSlotsByName: No matching signal "
+                                           "for on_pb_alarn_clicked()");
+        misspelled_form form;
+        QCOMPARE(catcher.warnings.size(), 1);
+    }
+
+    // --- Poll cycle -------------------------------------------------------------------------------
+
+    void unknown_rows_are_read_once_per_cycle_data() { add_panel_types(); }
+    void unknown_rows_are_read_once_per_cycle() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        const QVector<panel_command> with_unknown = expected_cycle(*panel, true);
+        QCOMPARE(text_of(run_ticks(*panel, with_unknown.size())), text_of(with_unknown));
+        QCOMPARE(text_of(run_ticks(*panel, with_unknown.size())), text_of(with_unknown));
+
+        report_parameters(*panel, raw_value);
+        const QVector<panel_command> fixed = expected_cycle(*panel, false);
+        QCOMPARE(text_of(run_ticks(*panel, 2 * fixed.size())), text_of(fixed + fixed));
+    }
+
+    // A row reported while the index points at the last unknown row leaves the index past the
+    // end: that tick sends nothing and the cycle starts again.
+    void index_past_the_unknown_rows_wraps_data() { add_panel_types(); }
+    void index_past_the_unknown_rows_wraps() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        const QVector<panel_command> fixed = expected_cycle(*panel, false);
+        const int rows = panel->parameters().size();
+        if (rows == 0) {
+            QSKIP("no parameters");
+        }
+        run_ticks(*panel, fixed.size() + rows - 1);
+        const parameter_list parameters = panel->parameters();
+        for (int i = 0; i < qMin(2, rows); ++i) {
+            panel->sl_parsed_data_received(parameters[i].code + 128, raw_value(i));
+        }
+        QCOMPARE(text_of(run_ticks(*panel, 2)), text_of({nothing, fixed.first()}));
+    }
+
+    // --- Queue and confirmation -----------------------------------------------------------------
+
+    void confirmed_setpoints_go_before_polling_data() { add_panel_types(); }
+    void confirmed_setpoints_go_before_polling() {
+        QFETCH(int, type);
+        auto panel = make_panel(type, QStringLiteral("Seed laser"));
+        auto twin = make_panel(type, QStringLiteral("Seed laser"));
+        const QList<QWidget *> setpoints = panel->setpoint_widgets();
+        if (setpoints.isEmpty()) {
+            QSKIP("no set-points");
+        }
+        run_ticks(*panel, 2);
+        run_ticks(*twin, 2);
+
+        boxes->expect(QStringLiteral("Conformation"), QMessageBox::Yes);
+        boxes->expect(QStringLiteral("Conformation"), QMessageBox::Yes);
+        QTest::keyClick(setpoints.first(), Qt::Key_Return);
+        QTest::keyClick(setpoints.first(), Qt::Key_Enter);
+        QCOMPARE(boxes->shown.size(), 2);
+        QCOMPARE(boxes->shown.first().text, QStringLiteral("Send command on Seed laser?"));
+        QCOMPARE(boxes->shown.first().buttons, QMessageBox::Yes | QMessageBox::No);
+
+        const QVector<panel_command> sent = run_ticks(*panel, 5);
+        QVERIFY2(sent[0].code >= 0 && sent[0].code < 128, qPrintable(text_of(sent)));
+        QCOMPARE(sent[1], sent[0]);
+        // Polling resumes where it was.
+        QCOMPARE(text_of(sent.mid(2)), text_of(run_ticks(*twin, 3)));
+    }
+
+    void answering_no_sends_nothing_data() { add_panel_types(); }
+    void answering_no_sends_nothing() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        auto twin = make_panel(type);
+        const QList<QWidget *> setpoints = panel->setpoint_widgets();
+        for (QWidget *setpoint : setpoints) {
+            boxes->expect(QStringLiteral("Conformation"), QMessageBox::No);
+            QTest::keyClick(setpoint, Qt::Key_Return);
+        }
+        QCOMPARE(panel->queued_commands(), 0);
+        const int ticks = expected_cycle(*panel, true).size();
+        QCOMPARE(text_of(run_ticks(*panel, ticks)), text_of(run_ticks(*twin, ticks)));
+    }
+
+    // Other keys on a set-point ask nothing.
+    void typing_asks_nothing_data() { add_panel_types(); }
+    void typing_asks_nothing() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        for (QWidget *setpoint : panel->setpoint_widgets()) {
+            QTest::keyClicks(setpoint, QStringLiteral("12"));
+            QTest::keyClick(setpoint, Qt::Key_Up);
+        }
+        QVERIFY(boxes->shown.isEmpty());
+        QCOMPARE(panel->queued_commands(), 0);
+    }
+
+    // --- Wheel ------------------------------------------------------------------------------------
+
+    // Without the panel's filter, the same wheel turn moves a spin box and a combo box.
+    void wheel_moves_plain_widgets() {
+        QDoubleSpinBox spin;
+        spin.setRange(0, 10);
+        turn_wheel(&spin, 1);
+        QCOMPARE(spin.value(), 1.0);
+        QComboBox combo;
+        combo.addItems({"a", "b"});
+        turn_wheel(&combo, -1);
+        QCOMPARE(combo.currentIndex(), 1);
+    }
+
+    void wheel_changes_nothing_data() { add_panel_types(); }
+    void wheel_changes_nothing() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        const QList<QWidget *> watched = panel->wheel_blocked_widgets();
+        QVERIFY(!watched.isEmpty());
+        for (QWidget *widget : watched) {
+            QTest::ignoreMessage(QtDebugMsg, "Wheel event blocked");
+            if (auto *spin = qobject_cast<QDoubleSpinBox *>(widget)) {
+                spin->setValue(spin->minimum());
+                turn_wheel(spin, 1);
+                QCOMPARE(spin->value(), spin->minimum());
+            } else if (auto *combo = qobject_cast<QComboBox *>(widget)) {
+                combo->setCurrentIndex(0);
+                turn_wheel(combo, -1);
+                QCOMPARE(combo->currentIndex(), 0);
+            } else {
+                turn_wheel(widget, 1);
+            }
+        }
+        QCOMPARE(panel->queued_commands(), 0);
+    }
+
+    // --- Indicators -------------------------------------------------------------------------------
+
+    // Limits not yet apart (maximum equal to minimum) leave every bar within its range.
+    void zero_span_keeps_the_bars_in_range_data() { add_panel_types(); }
+    void zero_span_keeps_the_bars_in_range() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        report_parameters(*panel, [](int) { return 500L; });
+        for (int code : panel->plan().read_codes) {
+            if (code != poll_plan::silent) {
+                panel->sl_parsed_data_received(code, 250);
+            }
+        }
+        const QList<QProgressBar *> bars = panel->findChildren<QProgressBar *>();
+        QVERIFY(!bars.isEmpty());
+        for (QProgressBar *bar : bars) {
+            QVERIFY2(bar->value() >= bar->minimum() - 1 && bar->value() <= bar->maximum(),
+                     qPrintable(bar->objectName() + QStringLiteral(" = ") +
+                                QString::number(bar->value())));
+        }
+    }
+
+    // --- Configuration dialog ---------------------------------------------------------------------
+
+    void dialog_rows_follow_the_parameters_data() { add_panel_types(); }
+    void dialog_rows_follow_the_parameters() {
+        QFETCH(int, type);
+        auto panel = make_panel(type, QStringLiteral("Pump"));
+        if (!panel->has_configuration_dialog()) {
+            QSKIP("no configuration dialog");
+        }
+        const parameter_list parameters = panel->parameters();
+        panel->sl_parsed_data_received(parameters.first().code + 128, raw_value(0));
+        panel->on_toolButton_clicked();
+        config_dialog *dialog = panel->configuration_dialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Pump configuration"));
+        QVERIFY(dialog->isModal());
+        QCOMPARE(dialog->spin_boxes().size(), parameters.size());
+        for (int i = 0; i < parameters.size(); ++i) {
+            QCOMPARE(dialog->spin_boxes()[i]->objectName(), parameters[i].label);
+            QCOMPARE(dialog->spin_boxes()[i]->decimals(), parameters[i].decimals);
+            QCOMPARE(dialog->spin_boxes()[i]->singleStep(), parameters[i].step);
+        }
+        QCOMPARE(dialog->value_labels().first()->text(),
+                 QString::number(raw_value(0) / scaling::pow10(parameters[0].decimals), 'f',
+                                 parameters[0].decimals));
+        QCOMPARE(dialog->value_labels().last()->text(), QStringLiteral("N/A"));
+        // Building sends nothing.
+        QCOMPARE(panel->queued_commands(), 0);
+
+        // A later report reaches the open dialog's labels.
+        panel->sl_parsed_data_received(parameters.last().code + 128, raw_value(1));
+        QVERIFY(dialog->value_labels().last()->text() != QStringLiteral("N/A"));
+
+        // Opening again builds a new dialog; closing deletes it.
+        panel->on_toolButton_clicked();
+        QVERIFY(panel->configuration_dialog() != nullptr);
+        panel->configuration_dialog()->close_button()->click();
+        QTRY_VERIFY(panel->configuration_dialog() == nullptr);
+    }
+
+    void write_sends_rows_reads_and_store_data() { add_panel_types(); }
+    void write_sends_rows_reads_and_store() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        if (!panel->has_configuration_dialog()) {
+            QSKIP("no configuration dialog");
+        }
+        report_parameters(*panel, raw_value);
+        panel->on_toolButton_clicked();
+        QVERIFY(panel->configuration_dialog());
+        panel->configuration_dialog()->write_button()->click();
+
+        const parameter_list parameters = panel->parameters();
+        QVector<panel_command> expected;
+        for (int i = 0; i < parameters.size(); ++i) {
+            expected.append({parameters[i].code, raw_value(i)});
+        }
+        for (const parameter_record &record : parameters) {
+            expected.append({record.code + 128, 0});
+        }
+        expected += panel->store_commands();
+        QCOMPARE(panel->queued_commands(), expected.size());
+        QCOMPARE(text_of(run_ticks(*panel, expected.size())), text_of(expected));
+        // Then polling again.
+        QCOMPARE(text_of(run_ticks(*panel, 1)), text_of({expected_cycle(*panel, false).first()}));
+    }
+
+    // --- Header -----------------------------------------------------------------------------------
+
+    void header_collapses_with_a_summary_data() { add_panel_types(); }
+    void header_collapses_with_a_summary() {
+        QFETCH(int, type);
+        auto panel = make_panel(type, QStringLiteral("Seed"));
+        auto *tab = panel->findChild<QPushButton *>(QStringLiteral("laser_tab_button"));
+        QVERIFY(tab);
+        QCOMPARE(tab->text(), QStringLiteral("Seed"));
+        QVERIFY(panel->body_shown());
+        tab->click();
+        QVERIFY(!panel->body_shown());
+        QVERIFY2(tab->text().startsWith(QStringLiteral("Seed (")) && tab->text().endsWith(')'),
+                 qPrintable(tab->text()));
+        tab->click();
+        QVERIFY(panel->body_shown());
+        QCOMPARE(tab->text(), QStringLiteral("Seed"));
+    }
+
+    void name_label_shows_the_model_data() { add_panel_types(); }
+    void name_label_shows_the_model() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        auto *name = panel->findChild<QLabel *>(QStringLiteral("laser_name_label"));
+        QVERIFY(name);
+        QCOMPARE(name->text(), registry().find(type)->model);
+        QCOMPARE(panel->type_name(), registry().find(type)->model);
+    }
+
+    // --- Pure parts ---------------------------------------------------------------------------------
+
+    void scaling_truncates_data() {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<int>("wire");
+        QTest::newRow("0.29 mA in 0.1 mA") << 0.29 << 10.0 << 2;
+        QTest::newRow("negative toward zero") << -0.29 << 10.0 << -2;
+        QTest::newRow("4.35 shown is 435") << 4.35 << 100.0 << 435;
+        QTest::newRow("coef 0.2 at 4 decimals") << 0.2 << 10000.0 << 2000;
+        QTest::newRow("25.50 in 0.0001") << 25.5 << 10000.0 << 255000;
+        QTest::newRow("0.0125 V in mV") << 0.0125 << 1000.0 << 12;
+        QTest::newRow("32-bit word") << 4294967295.0 << 1.0 << -1;
+    }
+    void scaling_truncates() {
+        QFETCH(double, value);
+        QFETCH(double, scale);
+        QFETCH(int, wire);
+        QCOMPARE(scaling::to_wire(value, scale), wire);
+    }
+
+    void percent_data() {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<double>("low");
+        QTest::addColumn<double>("high");
+        QTest::addColumn<int>("share");  // -1000: none
+        QTest::newRow("middle") << 20.0 << 10.0 << 30.0 << 50;
+        QTest::newRow("truncated") << 12.99 << 10.0 << 20.0 << 29;
+        QTest::newRow("below") << 5.0 << 10.0 << 20.0 << -50;
+        QTest::newRow("zero span") << 5.0 << 10.0 << 10.0 << -1000;
+        QTest::newRow("huge") << 1e300 << 0.0 << 1e-300 << -1000;
+    }
+    void percent() {
+        QFETCH(double, value);
+        QFETCH(double, low);
+        QFETCH(double, high);
+        QFETCH(int, share);
+        const std::optional<int> result = scaling::percent(value, low, high);
+        QCOMPARE(result.value_or(-1000), share);
+    }
+
+    // Cycles of the plan shapes the panels use, all parameters unknown except where stated.
+    void poll_step_shapes_data() {
+        QTest::addColumn<QVector<int>>("codes");
+        QTest::addColumn<int>("unknown_from");
+        QTest::addColumn<double>("mark");
+        QTest::addColumn<QVector<double>>("values");  // one per parameter (codes 81, 37, 38)
+        QTest::addColumn<QString>("cycle");           // two cycles
+        const int s = poll_plan::silent;
+        const double u = -1.0;
+        QTest::newRow("plain list, two unknown")
+            << QVector<int>{144, 145} << -1 << -1.0 << QVector<double>{u, 5, u}
+            << "144 145 209 166 144 145 209 166";
+        QTest::newRow("silent position") << QVector<int>{144, s, 148} << -1 << -1.0
+                                         << QVector<double>{1, 2, 3} << "144 - 148 144 - 148";
+        QTest::newRow("gap before unknown rows (heater)")
+            << QVector<int>{161, 146} << 3 << -1.0 << QVector<double>{u, 2, 3}
+            << "161 146 - 209 161 146 - 209";
+        QTest::newRow("list shorter than cycle, all known")
+            << QVector<int>{144, 145} << 3 << -1.0 << QVector<double>{1, 2, 3}
+            << "144 145 - 144 145 -";
+        QTest::newRow("other unknown mark: -1 counts as known")
+            << QVector<int>{160} << -1 << 4294967295.0 << QVector<double>{-1, 4294967295.0, 7}
+            << "160 165 160 165";
+    }
+    void poll_step_shapes() {
+        QFETCH(QVector<int>, codes);
+        QFETCH(int, unknown_from);
+        QFETCH(double, mark);
+        QFETCH(QVector<double>, values);
+        QFETCH(QString, cycle);
+        poll_plan plan;
+        plan.read_codes = codes;
+        plan.unknown_rows_from = unknown_from;
+        plan.unknown_mark = mark;
+        parameter_list parameters{{81, "CAN ID", 0, values[0], 1},
+                                  {37, "Max", 1, values[1], 1},
+                                  {38, "Min", 1, values[2], 1}};
+        int index = 0;
+        QStringList sent;
+        const int ticks = cycle.split(' ').size();
+        for (int i = 0; i < ticks; ++i) {
+            const std::optional<int> code = poll_step(plan, parameters, index);
+            sent.append(code ? QString::number(*code) : QStringLiteral("-"));
+        }
+        QCOMPARE(sent.join(' '), cycle);
+    }
+
+    void message_route_is_replaceable() {
+        QCOMPARE(boxes->shown.size(), 0);
+        boxes->expect(QStringLiteral("Question"), QMessageBox::Yes);
+        QVERIFY(confirm(nullptr, QStringLiteral("Question"), QStringLiteral("Go?")));
+        boxes->expect(QStringLiteral("Question"), QMessageBox::No);
+        QVERIFY(!confirm(nullptr, QStringLiteral("Question"), QStringLiteral("Go?")));
+        QCOMPARE(boxes->shown.size(), 2);
+        QCOMPARE(boxes->shown.first().icon, QMessageBox::Information);
+    }
+};
+
+QTEST_MAIN(test_panel_framework)
+#include "test_panel_framework.moc"
