@@ -1,0 +1,662 @@
+// The simulated devices seen through the adapter with the program's own frame codec: every modelled
+// type answers what its panel asks, stores writes, moves like hardware and misbehaves on request.
+#include "device_profiles.h"
+#include "frame_codec.h"
+#include "sim_bus.h"
+#include "sim_device.h"
+#include "slcan_adapter.h"
+
+#include <QtTest>
+
+#include <optional>
+
+namespace QTest {
+// Failure messages show what a read answered.
+template <>
+char *toString(const std::optional<long> &v) {
+    return v ? qstrdup(QByteArray::number(qlonglong(*v)).constData()) : qstrdup("no answer");
+}
+}  // namespace QTest
+
+namespace {
+
+using pair_list = QList<QPair<int, long>>;
+
+// What the panel of each type reads (its poll list and its configuration rows), written down from
+// the device protocol of each family; the models must answer all of it.
+struct type_reads {
+    int type;
+    QList<int> polled;  // read codes
+    QList<int> rows;    // configuration row codes (read as code + 128)
+};
+
+const QList<int> cw_poll{144, 145, 146, 148, 164, 161, 176};
+const QList<int> cw_rows{81, 37, 38, 66, 67, 55, 54, 22, 21, 51, 23, 68, 69, 70};
+const QList<int> ps_poll{160, 152, 146, 153, 180, 181, 164, 161};
+const QList<int> ps_rows{81, 37, 38, 55, 54, 22, 21, 68, 69, 70};
+const QList<int> ns_poll{160, 152, 146, 153, 163, 180, 181, 164, 161};
+const QList<int> ns_rows{81, 37, 38, 55, 54, 22, 21, 56, 68, 69, 70};
+const QList<int> sync_poll{201, 200, 199};
+const QList<int> hp_rows{81, 37, 24, 19, 25};
+
+QList<int> without(QList<int> codes, const QList<int> &gone) {
+    for (int c : gone) {
+        codes.removeAll(c);
+    }
+    return codes;
+}
+
+const QList<type_reads> &all_reads() {
+    static const QList<type_reads> reads{
+        {4, {161, 146}, {81}},
+        {5, {149, 145, 146, 147, 148, 144, 150}, {81}},
+        {14, cw_poll, cw_rows},
+        {15, without(cw_poll, {176}), cw_rows},
+        {17, {144, 145, 146, 148, 164, 161, 153, 160, 152, 180}, without(cw_rows, {66, 67})},
+        {18, {144, 145, 146, 164, 176, 148, 166}, hp_rows},
+        {19, ns_poll + QList<int>{185}, ns_rows},
+        {20, ps_poll, ps_rows},
+        {23, ns_poll, ns_rows},
+        {25, {144, 145, 146, 164, 176, 148, 166, 168}, hp_rows},
+        {26, ps_poll + QList<int>{188}, ps_rows + QList<int>{56, 57, 58, 59, 61}},
+        {27, {144, 145, 146, 176, 148, 166}, hp_rows},
+        {28, ps_poll + sync_poll, ps_rows},
+        {29, ns_poll + sync_poll, ns_rows},
+        {31, ns_poll + QList<int>{184, 199, 200}, {81, 37, 38, 55, 54, 22, 21}},
+        {34, cw_poll, without(cw_rows, {66, 67})},
+        {35, {162, 152, 146, 153, 164, 161, 176, 160}, ps_rows},
+        {36, {144, 146, 147, 149, 151, 161, 152, 153, 162, 160}, {81, 37, 36, 32, 24, 23, 21, 25}},
+        {38, cw_poll, without(cw_rows, {51})},
+    };
+    return reads;
+}
+
+const type_reads &reads_of(int type) {
+    for (const type_reads &r : all_reads()) {
+        if (r.type == type) {
+            return r;
+        }
+    }
+    qFatal("no read list for type %d", type);
+}
+
+// One answer as the program would receive it, checked character by character.
+struct answer {
+    QByteArray text;
+    frame_codec::parsed_line frame;
+    QString problem;  // empty when the text is a well-formed device answer
+};
+
+answer check_answer(const QByteArray &text) {
+    answer a{text, {}, {}};
+    if (text.size() != 26 || !text.endsWith('\r')) {
+        a.problem = QStringLiteral("not one 25-character line ending in CR: %1").arg(QString::fromLatin1(text.toPercentEncoding()));
+        return a;
+    }
+    const QByteArray body = text.left(25);
+    if (body != body.toLower()) {
+        a.problem = QStringLiteral("upper-case hex in %1").arg(QString::fromLatin1(body));
+        return a;
+    }
+    const quint16 crc = frame_codec::crc16_modbus(body.constData(), 21);
+    if (body.mid(21, 4).toUShort(nullptr, 16) != crc) {
+        a.problem = QStringLiteral("bad checksum in %1").arg(QString::fromLatin1(body));
+        return a;
+    }
+    if (body.mid(9, 4) != "0000") {
+        a.problem = QStringLiteral("reserved bytes not zero in %1").arg(QString::fromLatin1(body));
+        return a;
+    }
+    a.frame = frame_codec::parse(QString::fromLatin1(body));
+    if (!a.frame.is_frame) {
+        a.problem = QStringLiteral("not a frame: %1").arg(QString::fromLatin1(body));
+    }
+    return a;
+}
+
+// A bus behind an open adapter; requests are the program's own frame texts with the writer's
+// extra line end.
+struct rig {
+    sim_bus bus;
+    slcan_adapter adapter{bus};
+
+    rig() { adapter.feed("O\r\r\nS6\r\r\n"); }
+
+    sim_device *add(int id, int type) { return bus.add_device(id, type); }
+
+    QByteArray send(int id, int code, long value = 0) {
+        const QString frame = frame_codec::compose(id, code, frame_codec::to_wire(value));
+        return adapter.feed(frame.toLatin1() + "\r\n");
+    }
+    // Reads `code` (a read code, bit 7 set) from the device at `id`.
+    answer read(int id, int code) { return check_answer(send(id, code)); }
+    // The value a read of `code` answers, or nothing when the answer is missing or malformed.
+    std::optional<long> value(int id, int code) {
+        const answer a = read(id, code);
+        if (!a.problem.isEmpty() || a.frame.code != code || a.frame.sender != id) {
+            return std::nullopt;
+        }
+        return a.frame.value;
+    }
+};
+
+void add_type_rows() {
+    QTest::addColumn<int>("type");
+    for (int type : sim::modelled_types()) {
+        QTest::newRow(qPrintable(QStringLiteral("type %1").arg(type))) << type;
+    }
+}
+
+// Ramp-driven types: emission switch, drive code, a set point inside the limits and the reading
+// it gives (report units differ from set units on the precision driver).
+struct drive_case {
+    int type;
+    int emission;
+    int drive;
+    long set;
+    long reading;
+};
+
+const QList<drive_case> drive_cases{
+    {14, 16, 17, 5000, 5000},   {15, 16, 17, 50000, 5000000}, {17, 16, 17, 3000, 3000},
+    {18, 16, 17, 50000, 50000}, {19, 32, 24, 1000, 1000},     {20, 32, 24, 150, 150},
+    {23, 32, 24, 1000, 1000},   {25, 16, 17, 100000, 100000}, {26, 32, 24, 150, 150},
+    {27, 16, 17, 5000, 5000},   {28, 32, 24, 150, 150},       {29, 32, 24, 1000, 1000},
+    {31, 32, 24, 150, 150},     {34, 16, 17, 2000, 2000},     {35, 34, 24, 150, 150},
+    {38, 16, 17, 4000, 4000},
+};
+
+}  // namespace
+
+class test_sim_devices : public QObject {
+    Q_OBJECT
+
+private slots:
+    void every_type_is_modelled_and_listed() {
+        QList<int> listed;
+        for (const type_reads &r : all_reads()) {
+            listed << r.type;
+        }
+        QList<int> modelled;
+        for (int t : sim::modelled_types()) {
+            modelled << t;
+        }
+        QCOMPARE(modelled, listed);
+    }
+
+    void answers_every_read_its_panel_makes_data() { add_type_rows(); }
+    void answers_every_read_its_panel_makes() {
+        QFETCH(int, type);
+        rig r;
+        const int id = 0x2A;
+        sim_device *dev = r.add(id, type);
+        QVERIFY(dev);
+        const type_reads &reads = reads_of(type);
+        QList<int> codes = reads.polled;
+        for (int row : reads.rows) {
+            codes << row + 128;
+        }
+        for (int code : codes) {
+            const answer a = r.read(id, code);
+            QVERIFY2(a.problem.isEmpty(), qPrintable(QStringLiteral("code %1: %2").arg(code).arg(a.problem)));
+            QCOMPARE(a.frame.sender, id);
+            QCOMPARE(a.frame.code, code);
+            QCOMPARE(long(a.frame.value), long(dev->value(code - 128)));
+        }
+        QCOMPARE(r.value(id, 0xD0), std::optional<long>(type));
+        QCOMPARE(r.value(id, 0xD1), std::optional<long>(id));
+        // Every answer names the device in byte 1; the frame's own id is the device's too.
+        QVERIFY(r.read(id, 0xD0).text.startsWith("t02a8d02a"));
+    }
+
+    void limit_rows_make_sense_data() { add_type_rows(); }
+    void limit_rows_make_sense() {
+        QFETCH(int, type);
+        rig r;
+        QVERIFY(r.add(5, type));
+        const QList<int> &rows = reads_of(type).rows;
+        for (const auto &pair : {qMakePair(37, 38), qMakePair(55, 54), qMakePair(66, 67)}) {
+            if (rows.contains(pair.first) && rows.contains(pair.second)) {
+                QVERIFY(*r.value(5, pair.first + 128) > *r.value(5, pair.second + 128));
+            }
+        }
+        if (rows.contains(22)) {
+            QVERIFY(*r.value(5, 22 + 128) > 0);  // thermistor resistance at 25 °C
+        }
+    }
+
+    void reads_of_codes_the_device_lacks_go_unanswered() {
+        rig r;
+        QVERIFY(r.add(3, 14));
+        QVERIFY(r.send(3, 0x80 + 0x7E).isEmpty());
+        QVERIFY(r.send(4, 0xD0).isEmpty());  // nobody at 4
+    }
+
+    void configuration_rows_are_stored_and_read_back_data() { add_type_rows(); }
+    void configuration_rows_are_stored_and_read_back() {
+        QFETCH(int, type);
+        rig r;
+        QVERIFY(r.add(7, type));
+        for (int row : reads_of(type).rows) {
+            if (row == sim::can_id_code) {
+                continue;  // moves the device; see can_id_change_takes_effect_after_reset
+            }
+            for (long v : {1234L + row, -5L, 0L}) {
+                QVERIFY(r.send(7, row, v).isEmpty());  // writes are not acknowledged
+                QCOMPARE(r.value(7, row + 128), std::optional<long>(v));
+            }
+        }
+    }
+
+    void plain_registers_are_stored_and_read_back_data() { add_type_rows(); }
+    void plain_registers_are_stored_and_read_back() {
+        QFETCH(int, type);
+        rig r;
+        sim_device *dev = r.add(9, type);
+        QVERIFY(dev);
+        int checked = 0;
+        for (const sim::reg_def &reg : dev->profile().registers) {
+            if (reg.kind != sim::reg_kind::plain || dev->profile().find_follower(reg.code)) {
+                continue;
+            }
+            for (long v : {long(reg.code) * 3 + 1, -250L}) {
+                r.send(9, reg.code, v);
+                QCOMPARE(r.value(9, reg.code + 128), std::optional<long>(v));
+            }
+            ++checked;
+        }
+        QVERIFY(checked > 0);
+    }
+
+    void measured_registers_ignore_writes() {
+        rig r;
+        QVERIFY(r.add(2, 14));
+        r.send(2, 0x50, 20);  // the type
+        QCOMPARE(r.value(2, 0xD0), std::optional<long>(14));
+        const long alarm = *r.value(2, 176);
+        r.send(2, 48, 0x3FF);
+        QCOMPARE(r.value(2, 176), std::optional<long>(alarm));
+    }
+
+    void drive_ramps_after_emission_on_data() {
+        QTest::addColumn<int>("emission");
+        QTest::addColumn<int>("drive");
+        QTest::addColumn<long>("set");
+        QTest::addColumn<long>("reading");
+        QTest::addColumn<int>("type");
+        for (const drive_case &c : drive_cases) {
+            QTest::newRow(qPrintable(QStringLiteral("type %1").arg(c.type)))
+                << c.emission << c.drive << c.set << c.reading << c.type;
+        }
+    }
+    void drive_ramps_after_emission_on() {
+        QFETCH(int, type);
+        QFETCH(int, emission);
+        QFETCH(int, drive);
+        QFETCH(long, set);
+        QFETCH(long, reading);
+        rig r;
+        QVERIFY(r.add(1, type));
+        const int report = drive + 128;
+        r.send(1, drive, set);
+        r.bus.advance(5000);
+        QCOMPARE(r.value(1, report), std::optional<long>(0));  // no output while emission is off
+
+        r.send(1, emission, 1);
+        QCOMPARE(r.value(1, emission + 128), std::optional<long>(1));
+        r.bus.advance(10);
+        const long early = *r.value(1, report);
+        QVERIFY2(early > 0 && early < reading, qPrintable(QString::number(early)));
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, report), std::optional<long>(reading));
+
+        r.send(1, emission, 0);
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, report), std::optional<long>(0));
+    }
+
+    void drive_set_point_is_held_to_the_configured_maximum_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("emission");
+        QTest::addColumn<long>("max_row");    // the new "Max current" row value
+        QTest::addColumn<long>("set");        // a set point above it
+        QTest::addColumn<long>("reading");    // what the drive settles at
+        QTest::newRow("CW, 0.1 mA") << 14 << 16 << 10000L << 15000L << 10000L;
+        QTest::newRow("precision CW, 0.01 mA set, 0.0001 mA reported")
+            << 15 << 16 << 20000L << 30000L << 2000000L;
+        QTest::newRow("nanosecond, 0.01 A") << 23 << 32 << 800L << 1200L << 800L;
+        QTest::newRow("high power, 0.01 A") << 18 << 16 << 2000L << 3000L << 2000L;
+        QTest::newRow("high power with TEC, mA against a 0.01 A row")
+            << 25 << 16 << 2000L << 30000L << 20000L;
+    }
+    void drive_set_point_is_held_to_the_configured_maximum() {
+        QFETCH(int, type);
+        QFETCH(int, emission);
+        QFETCH(long, max_row);
+        QFETCH(long, set);
+        QFETCH(long, reading);
+        rig r;
+        QVERIFY(r.add(1, type));
+        const int drive = type == 23 ? 24 : 17;
+        r.send(1, 37, max_row);
+        r.send(1, drive, set);
+        r.send(1, emission, 1);
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, drive + 128), std::optional<long>(reading));
+    }
+
+    void constant_power_mode_regulates_the_power() {
+        rig r;
+        QVERIFY(r.add(1, 14));
+        r.send(1, 36, 3);      // "Const. Power"
+        r.send(1, 65, 40000);  // 400.00 mW
+        r.send(1, 16, 1);
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, 148), std::optional<long>(4000));  // 400.0 mW reported
+        r.send(1, 36, 0);
+        r.send(1, 17, 1000);  // back to the current set point: 100.0 mA
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, 145), std::optional<long>(1000));
+        QVERIFY(*r.value(1, 148) < 4000);
+    }
+
+    void temperature_settles_towards_its_set_point_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("tec");  // switch code, -1: always regulating
+        QTest::addColumn<long>("set");
+        QTest::addColumn<long>("reading");  // -1: the "Max temperature" row
+        QTest::newRow("CW") << 14 << 33 << 200L << 200L;
+        QTest::newRow("CW above its maximum") << 14 << 33 << 500L << -1L;
+        QTest::newRow("precision CW, 0.0001 °C") << 15 << 33 << 200000L << 200000L;
+        QTest::newRow("comb") << 17 << 33 << 300L << 300L;
+        QTest::newRow("picosecond") << 20 << 33 << 180L << 180L;
+        QTest::newRow("nanosecond") << 23 << 33 << 250L << 250L;
+        QTest::newRow("SNS") << 36 << 33 << 300L << 300L;
+        QTest::newRow("heater") << 4 << 33 << 800L << 800L;
+        QTest::newRow("high power with TEC") << 25 << -1 << 200L << 200L;
+    }
+    void temperature_settles_towards_its_set_point() {
+        QFETCH(int, type);
+        QFETCH(int, tec);
+        QFETCH(long, set);
+        QFETCH(long, reading);
+        rig r;
+        QVERIFY(r.add(6, type));
+        if (reading < 0) {
+            reading = *r.value(6, 55 + 128);
+        }
+        const long start = *r.value(6, 146);
+        r.send(6, 18, set);
+        if (tec >= 0) {
+            r.bus.advance(30000);
+            QCOMPARE(r.value(6, 146), std::optional<long>(start));  // TEC off: stays put
+            r.send(6, tec, 1);
+            QCOMPARE(r.value(6, tec + 128), std::optional<long>(1));
+        }
+        r.bus.advance(500);
+        const long moving = *r.value(6, 146);
+        QVERIFY2((moving - start) * (reading - start) > 0 && qAbs(moving - start) < qAbs(reading - start),
+                 qPrintable(QStringLiteral("%1 -> %2 -> %3").arg(start).arg(moving).arg(reading)));
+        r.bus.advance(120000);
+        QCOMPARE(r.value(6, 146), std::optional<long>(reading));
+        if (tec >= 0) {
+            r.send(6, tec, 0);
+            r.bus.advance(120000);
+            QCOMPARE(r.value(6, 146), std::optional<long>(start));
+        }
+    }
+
+    void comb_bias_and_tec_current() {
+        rig r;
+        QVERIFY(r.add(4, 17));
+        r.send(4, 24, -250);  // bias voltage 2.5 V, negative on the wire
+        QCOMPARE(r.value(4, 152), std::optional<long>(-250));
+        QCOMPARE(r.value(4, 153), std::optional<long>(0));  // no bias current while off
+        r.send(4, 32, 1);
+        QVERIFY(*r.value(4, 153) > 0);
+        // The TEC current is reported in mA offset by 2500: zero current reads 2500.
+        QCOMPARE(r.value(4, 180), std::optional<long>(2500));
+        r.send(4, 18, 300);
+        r.send(4, 33, 1);
+        r.bus.advance(100);
+        QVERIFY(*r.value(4, 180) > 2500);  // heating towards 30 °C
+        r.bus.advance(120000);
+        QCOMPARE(r.value(4, 180), std::optional<long>(2500));  // settled: no current needed
+    }
+
+    void pulse_picker_rate_follows_its_mode_data() {
+        QTest::addColumn<pair_list>("writes");
+        QTest::addColumn<long>("numerator");  // output rate = seed × numerator / denominator
+        QTest::addColumn<long>("denominator");
+        using w = pair_list;
+        QTest::newRow("open") << w{{16, 0}} << 1L << 1L;
+        QTest::newRow("closed") << w{{16, 1}} << 0L << 1L;
+        QTest::newRow("divide by 4") << w{{18, 4}, {16, 2}} << 1L << 4L;
+        QTest::newRow("burst 1 of 3") << w{{19, 1}, {20, 2}, {16, 3}} << 1L << 3L;
+    }
+    void pulse_picker_rate_follows_its_mode() {
+        QFETCH(pair_list, writes);
+        QFETCH(long, numerator);
+        QFETCH(long, denominator);
+        rig r;
+        QVERIFY(r.add(8, 5));
+        const long seed = *r.value(8, 150);
+        QVERIFY(seed > 0);
+        for (const auto &wr : writes) {
+            r.send(8, wr.first, wr.second);
+        }
+        QCOMPARE(r.value(8, 149), std::optional<long>(seed * numerator / denominator));
+    }
+
+    void store_keeps_configuration_over_a_reset_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("store");
+        QTest::addColumn<long>("store_value");
+        for (int type : sim::modelled_types()) {
+            int store = 82;
+            long value = 0;
+            if (type == 18 || type == 25 || type == 27) {
+                store = 51;
+                value = 1;
+            } else if (type == 4 || type == 5) {
+                continue;  // the CAN ID is their only row: can_id_change_takes_effect_after_reset
+            }
+            QTest::newRow(qPrintable(QStringLiteral("type %1").arg(type))) << type << store << value;
+        }
+    }
+    void store_keeps_configuration_over_a_reset() {
+        QFETCH(int, type);
+        QFETCH(int, store);
+        QFETCH(long, store_value);
+        rig r;
+        sim_device *dev = r.add(12, type);
+        QVERIFY(dev);
+        const int row = reads_of(type).rows.last();
+        const long old = *r.value(12, row + 128);
+        const long changed = old + 7;
+        r.send(12, row, changed);
+        QCOMPARE(r.value(12, row + 128), std::optional<long>(changed));
+        dev->reset();
+        QCOMPARE(r.value(12, row + 128), std::optional<long>(old));  // not stored: lost
+        r.send(12, row, changed);
+        r.send(12, store, store_value);
+        r.send(12, row, changed + 1);  // after the store: lost again on reset
+        dev->reset();
+        QCOMPARE(r.value(12, row + 128), std::optional<long>(changed));
+    }
+
+    void can_id_change_takes_effect_after_reset_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("store");  // -1: the row is kept as soon as it is written
+        QTest::addColumn<long>("store_value");
+        QTest::newRow("picosecond, store 82") << 20 << 82 << 0L;
+        QTest::newRow("high power, store 51") << 18 << 51 << 1L;
+        QTest::newRow("heater, kept on write") << 4 << -1 << 0L;
+        QTest::newRow("pulse picker, kept on write") << 5 << -1 << 0L;
+    }
+    void can_id_change_takes_effect_after_reset() {
+        QFETCH(int, type);
+        QFETCH(int, store);
+        QFETCH(long, store_value);
+        rig r;
+        sim_device *dev = r.add(0x10, type);
+        r.send(0x10, 81, 0x33);
+        QCOMPARE(r.value(0x10, 0xD1), std::optional<long>(0x33));  // the row shows the new id
+        QVERIFY(r.send(0x33, 0xD0).isEmpty());
+        if (store >= 0) {
+            dev->reset();  // not stored: the device comes back at its old address
+            QCOMPARE(r.value(0x10, 0xD1), std::optional<long>(0x10));
+            r.send(0x10, 81, 0x33);
+            r.send(0x10, store, store_value);
+        }
+        dev->reset();
+        QVERIFY(r.send(0x10, 0xD0).isEmpty());
+        QCOMPARE(r.value(0x33, 0xD0), std::optional<long>(type));
+        QCOMPARE(r.value(0x33, 0xD1), std::optional<long>(0x33));
+    }
+
+    void high_power_family_also_answers_at_fa_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("answers");
+        QTest::newRow("ZEMA-1200") << 18 << true;
+        QTest::newRow("ZEMA-240") << 25 << true;
+        QTest::newRow("ZEMA-120") << 27 << true;
+        QTest::newRow("CW") << 14 << false;
+        QTest::newRow("picosecond") << 20 << false;
+    }
+    void high_power_family_also_answers_at_fa() {
+        QFETCH(int, type);
+        QFETCH(bool, answers);
+        rig r;
+        QVERIFY(r.add(0x21, type));
+        const QByteArray text = r.send(0xFA, 0xD1);
+        QCOMPARE(!text.isEmpty(), answers);
+        if (answers) {
+            const answer a = check_answer(text);
+            QVERIFY2(a.problem.isEmpty(), qPrintable(a.problem));
+            QCOMPARE(a.frame.sender, 0x21);  // the device still names itself
+            QCOMPARE(long(a.frame.value), 0x21L);
+        }
+    }
+
+    void alarm_word_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("emission");
+        QTest::addColumn<int>("clear");  // clearing command, -1: none on the wire
+        QTest::newRow("CW") << 14 << 16 << -1;
+        QTest::newRow("CW 250") << 34 << 16 << -1;
+        QTest::newRow("CW 450") << 38 << 16 << -1;
+        QTest::newRow("picosecond module") << 35 << 34 << -1;
+        QTest::newRow("ZEMA-1200") << 18 << 16 << 41;
+        QTest::newRow("ZEMA-240") << 25 << 16 << 41;
+        QTest::newRow("ZEMA-120") << 27 << 16 << 41;
+    }
+    void alarm_word() {
+        QFETCH(int, type);
+        QFETCH(int, emission);
+        QFETCH(int, clear);
+        rig r;
+        sim_device *dev = r.add(3, type);
+        QCOMPARE(r.value(3, 176), std::optional<long>(0));
+        r.send(3, emission, 1);
+        QVERIFY(dev->raise_alarm(0x0101));  // rebooted + output voltage advice: warnings only
+        QCOMPARE(r.value(3, 176), std::optional<long>(0x0101));
+        QCOMPARE(r.value(3, emission + 128), std::optional<long>(1));
+
+        QVERIFY(dev->raise_alarm(0x0002));  // interlock: the output goes off and stays off
+        QCOMPARE(r.value(3, 176), std::optional<long>(0x0103));
+        QCOMPARE(r.value(3, emission + 128), std::optional<long>(0));
+        r.send(3, emission, 1);
+        QCOMPARE(r.value(3, emission + 128), std::optional<long>(0));
+
+        if (clear >= 0) {
+            r.send(3, clear, 1);
+        } else {
+            dev->clear_alarm();
+        }
+        QCOMPARE(r.value(3, 176), std::optional<long>(0));
+        r.send(3, emission, 1);
+        QCOMPARE(r.value(3, emission + 128), std::optional<long>(1));
+    }
+
+    void types_without_alarm_word_refuse_alarms() {
+        for (int type : {4, 5, 15, 17, 20, 23, 36}) {
+            sim_bus bus;
+            QVERIFY(!bus.add_device(1, type)->raise_alarm(1));
+            QVERIFY(!bus.schedule_alarm(1, 1, 0));
+        }
+    }
+
+    void silent_device_answers_nothing_for_its_window() {
+        rig r;
+        sim_device *dev = r.add(2, 23);
+        QVERIFY(r.add(3, 14));
+        QVERIFY(r.bus.schedule_silence(2, 100, 200));
+        r.bus.advance(99);
+        QVERIFY(r.value(2, 0xD0));
+        r.bus.advance(1);
+        QVERIFY(dev->silent());
+        const int before = dev->requests();
+        QVERIFY(r.send(2, 0xD0).isEmpty());
+        QVERIFY(r.send(2, 0xD1).isEmpty());
+        r.send(2, 32, 1);  // writes are not taken either
+        QCOMPARE(dev->requests(), before + 3);
+        QVERIFY(r.value(3, 0xD0));  // the other device is not affected
+        r.bus.advance(200);
+        QCOMPARE(r.value(2, 0xD0), std::optional<long>(23));
+        QCOMPARE(r.value(2, 160), std::optional<long>(0));
+    }
+
+    void garbage_is_never_taken_for_a_frame() {
+        rig r;
+        QVERIFY(r.add(2, 20));
+        QVERIFY(r.bus.schedule_garbage(2, 0, 1000));
+        r.bus.advance(0);
+        for (int code : {0xD0, 0xD1, 146, 160}) {
+            const QByteArray text = r.send(2, code);
+            QCOMPARE(text.size(), 26);
+            QVERIFY(text.endsWith('\r'));
+            QVERIFY(!text.left(25).contains('\r') && !text.contains('\n'));
+            QVERIFY(!frame_codec::parse(QString::fromLatin1(text.left(25))).is_frame);
+        }
+        r.bus.advance(1000);
+        QCOMPARE(r.value(2, 0xD0), std::optional<long>(20));
+    }
+
+    void type_change_gives_the_new_type_registers() {
+        rig r;
+        QVERIFY(r.add(5, 17));
+        QVERIFY(r.bus.schedule_type_change(5, 20, 300));
+        QVERIFY(!r.bus.schedule_type_change(5, 99, 300));  // not modelled
+        QVERIFY(r.value(5, 145));                          // the comb's drive current
+        QVERIFY(!r.value(5, 181));
+        r.bus.advance(300);
+        QCOMPARE(r.value(5, 0xD0), std::optional<long>(20));
+        QCOMPARE(r.value(5, 0xD1), std::optional<long>(5));
+        QVERIFY(r.value(5, 181));   // the picosecond driver's cut count
+        QVERIFY(!r.value(5, 145));  // gone with the comb
+    }
+
+    void events_see_the_bus_at_their_time() {
+        // An event at 400 ms sees the drive where a device left alone for 400 ms has it.
+        rig r;
+        rig reference;
+        for (rig *each : {&r, &reference}) {
+            QVERIFY(each->add(1, 14));
+            each->send(1, 17, 5000);
+            each->send(1, 16, 1);
+        }
+        sim_device *dev = r.bus.find(1);
+        long at_event = -1;
+        r.bus.schedule(400, [&] { at_event = dev->value(17); });
+        r.bus.advance(1000);
+        reference.bus.advance(400);
+        QCOMPARE(at_event, long(reference.bus.find(1)->value(17)));
+        QVERIFY(at_event > 0 && at_event < 5000);
+        QCOMPARE(long(dev->value(17)), 5000L);
+        QCOMPARE(r.bus.pending_events(), std::size_t(0));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_sim_devices)
+#include "test_sim_devices.moc"
