@@ -33,6 +33,8 @@ config_dialog::config_dialog(const QString &display_name, const parameter_list &
         auto *hint_label = new QLabel(hint, group);
         hint_label->setObjectName(QStringLiteral("hint_label"));
         hint_label->setWordWrap(true);
+        // The dialog's width is fixed: reserve the wrapped text's height.
+        hint_label->setMinimumHeight(hint_label->heightForWidth(440));
         rows->addWidget(hint_label);
     }
 
@@ -47,9 +49,12 @@ config_dialog::config_dialog(const QString &display_name, const parameter_list &
         spin->setSingleStep(record.step);
         spin->setValue(record.value);
         spin->setObjectName(record.label);
-        row->addWidget(label, 3);
-        row->addWidget(value, 2);
-        row->addWidget(spin, 2);
+        // Fixed widths line the rows up into columns.
+        value->setFixedWidth(70);
+        spin->setFixedWidth(130);
+        row->addWidget(label, 1);
+        row->addWidget(value);
+        row->addWidget(spin);
         rows->addLayout(row);
         value_labels_.append(value);
         spin_boxes_.append(spin);

@@ -24,6 +24,13 @@ namespace {
 // Readings (as opposed to parameters) are unknown while they hold -1.0 in every panel.
 bool reading_known(double value) { return value != -1.0; }
 
+// A widget given a style sheet of its own stops inheriting its parent's font; keep the form's.
+void restyle(QWidget *widget, const QString &sheet) {
+    const QFont font = widget->font();
+    widget->setStyleSheet(sheet);
+    widget->setFont(font);
+}
+
 }  // namespace
 
 panel_base::panel_base(QWidget *parent) : device_panel(parent) {}
@@ -49,11 +56,14 @@ void panel_base::set_type_name(const QString &name) {
     }
 }
 
+void panel_base::set_poll_plan(const poll_plan &plan) {
+    plan_ = plan;
+    mark_parameters_unknown();
+}
+
 void panel_base::set_parameters(const parameter_list &parameters) {
     parameters_ = parameters;
-    for (parameter_record &record : parameters_) {
-        record.value = plan_.unknown_mark;
-    }
+    mark_parameters_unknown();
 }
 
 void panel_base::remove_parameter(int position) {
@@ -297,7 +307,7 @@ void panel_base::bind_setpoint(QWidget *widget, std::function<void()> on_yes) {
     setpoint_order_.append(widget);
     block_wheel(widget);
     if (qobject_cast<QAbstractSpinBox *>(widget)) {
-        widget->setStyleSheet(panel_style::setpoint());
+        restyle(widget, panel_style::setpoint());
     }
 }
 
@@ -415,21 +425,21 @@ void panel_base::finish_setup(QWidget *body) {
     }
 
     if (tab_button_) {
-        tab_button_->setStyleSheet(panel_style::header_button());
+        restyle(tab_button_, panel_style::header_button());
     }
     if (header_switch) {
-        header_switch->setStyleSheet(panel_style::header_switch());
+        restyle(header_switch, panel_style::header_switch());
     }
     for (const char *name : {"on_off_button", "pb_on_off"}) {
         if (auto *button = findChild<QPushButton *>(QLatin1String(name))) {
-            button->setStyleSheet(panel_style::body_switch());
+            restyle(button, panel_style::body_switch());
         }
     }
     for (QProgressBar *bar : findChildren<QProgressBar *>()) {
-        bar->setStyleSheet(panel_style::indicator());
+        restyle(bar, panel_style::indicator());
     }
     if (auto *frame = findChild<QGroupBox *>(QStringLiteral("groupBox"))) {
-        frame->setStyleSheet(panel_style::panel_frame());
+        restyle(frame, panel_style::panel_frame());
     }
     if (tool_button_) {
         QIcon icon;

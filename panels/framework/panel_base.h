@@ -57,6 +57,8 @@ public:
     // Commands that "Write" appends after the writes and read requests.
     const QVector<panel_command> &store_commands() const { return store_commands_; }
     bool has_configuration_dialog() const { return dialog_available_; }
+    // What a dialog row shows for a parameter not yet reported.
+    QString dialog_unknown_text() const { return dialog_unknown_text_; }
     config_dialog *configuration_dialog() const;
     // Widgets on which Return/Enter asks for confirmation and, on Yes, sends.
     QList<QWidget *> setpoint_widgets() const;
@@ -89,7 +91,8 @@ protected:
     explicit panel_base(QWidget *parent);
 
     // --- Description, given by the panel's constructor -----------------------------------------
-    void set_poll_plan(const poll_plan &plan) { plan_ = plan; }
+    // Both mark every parameter unknown with the plan's mark, whichever comes first.
+    void set_poll_plan(const poll_plan &plan);
     void set_parameters(const parameter_list &parameters);
     // The store command(s) after "Write" (default (82, 0)); live change off: dialog values are
     // sent only by "Write".

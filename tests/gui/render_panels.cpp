@@ -42,6 +42,15 @@ void feed(panel_base &panel, int type) {
     }
 }
 
+// Lays the window out at the main window's width and the height its contents ask for.
+void fit(QWidget *host) {
+    for (int pass = 0; pass < 2; ++pass) {
+        QApplication::processEvents();
+        host->layout()->activate();
+        host->resize(980, host->sizeHint().height());
+    }
+}
+
 void save(QWidget *widget, const QString &path) {
     QApplication::processEvents();
     if (!widget->grab().save(path)) {
@@ -75,18 +84,19 @@ int main(int argc, char *argv[]) {
             continue;
         }
         layout->addWidget(panel);
-        layout->addStretch();
+        // As the device object sets it when it places a panel.
+        panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         panel->set_display_name(QStringLiteral("Laser diode %1").arg(type));
-        host.resize(980, 10);
         host.show();
 
         const QString base = QStringLiteral("%1/type_%2").arg(out).arg(type);
+        fit(&host);
         save(&host, base + QStringLiteral("_fresh.png"));
         feed(*panel, type);
-        host.resize(980, host.sizeHint().height());
+        fit(&host);
         save(&host, base + QStringLiteral("_expanded.png"));
         panel->findChild<QPushButton *>(QStringLiteral("laser_tab_button"))->click();
-        host.resize(980, host.sizeHint().height());
+        fit(&host);
         save(&host, base + QStringLiteral("_collapsed.png"));
 
         if (panel->has_configuration_dialog()) {

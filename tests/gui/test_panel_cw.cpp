@@ -318,6 +318,7 @@ private slots:
             rows.append(spin->objectName());
         }
         QCOMPARE(rows, expected);
+        QCOMPARE(panel->dialog_unknown_text(), QStringLiteral("N/A"));
         dialog->write_button()->click();
         QCOMPARE(panel->queued_commands(), 13 + 13 + 1);
     }

@@ -280,13 +280,13 @@ private slots:
         QCOMPARE(dialog->value_labels().first()->text(),
                  QString::number(raw_value(0) / scaling::pow10(parameters[0].decimals), 'f',
                                  parameters[0].decimals));
-        QCOMPARE(dialog->value_labels().last()->text(), QStringLiteral("N/A"));
+        QCOMPARE(dialog->value_labels().last()->text(), panel->dialog_unknown_text());
         // Building sends nothing.
         QCOMPARE(panel->queued_commands(), 0);
 
         // A later report reaches the open dialog's labels.
         panel->sl_parsed_data_received(parameters.last().code + 128, raw_value(1));
-        QVERIFY(dialog->value_labels().last()->text() != QStringLiteral("N/A"));
+        QVERIFY(dialog->value_labels().last()->text() != panel->dialog_unknown_text());
 
         // Opening again builds a new dialog; closing deletes it.
         panel->on_toolButton_clicked();
