@@ -19,11 +19,8 @@ follower_def follower_def::ramp_of(int code, double units_per_s, int gate) {
 }
 
 follower_def follower_def::settle_of(int code, double time_constant_s, int gate, qint32 rest) {
-    follower_def f;
-    f.code = code;
+    follower_def f = ramp_of(code, time_constant_s, gate);
     f.kind = settle;
-    f.rate = time_constant_s;
-    f.gate = gate;
     f.rest = rest;
     return f;
 }
@@ -70,9 +67,15 @@ namespace {
 // Values below are in the units each device uses on the wire: a row with one decimal carries
 // tenths, and so on.
 
-reg_def plain(int code, qint32 initial = 0) { return {code, initial, reg_kind::plain}; }
-reg_def fixed(int code, qint32 initial = 0) { return {code, initial, reg_kind::read_only}; }
-reg_def config(int code, qint32 initial) { return {code, initial, reg_kind::config}; }
+reg_def plain(int code, qint32 initial = 0) {
+    return {code, initial, reg_kind::plain};
+}
+reg_def fixed(int code, qint32 initial = 0) {
+    return {code, initial, reg_kind::read_only};
+}
+reg_def config(int code, qint32 initial) {
+    return {code, initial, reg_kind::config};
+}
 
 // Room temperature in tenths of a degree: where temperatures start and drift back to.
 constexpr qint32 ambient_tenths = 230;
@@ -137,8 +140,9 @@ public:
     // A TEC: switch 33, set point and reading 18 held between the temperature limits.
     builder &tec(int per_tenth = 1, int limit_scale = 1) {
         add({plain(33)});
-        return follow(follower_def::settle_of(18, tec_time_constant_s, 33, ambient_tenths * per_tenth)
-                          .limited(55, 54, limit_scale));
+        return follow(
+            follower_def::settle_of(18, tec_time_constant_s, 33, ambient_tenths * per_tenth)
+                .limited(55, 54, limit_scale));
     }
     device_profile done() { return p_; }
 
@@ -198,20 +202,20 @@ void picker_rate(sim_device &d) {
     const qint64 seed = d.value(22);
     qint64 rate = seed;
     switch (d.value(16)) {
-    case 1:
-        rate = 0;
-        break;
-    case 2:
-        rate = seed / qMax<qint64>(1, d.value(18));
-        break;
-    case 3: {
-        const qint64 pass = qMax<qint64>(0, d.value(19));
-        const qint64 skip = qMax<qint64>(0, d.value(20));
-        rate = pass + skip > 0 ? seed * pass / (pass + skip) : seed;
-        break;
-    }
-    default:
-        break;
+        case 1:
+            rate = 0;
+            break;
+        case 2:
+            rate = seed / qMax<qint64>(1, d.value(18));
+            break;
+        case 3: {
+            const qint64 pass = qMax<qint64>(0, d.value(19));
+            const qint64 skip = qMax<qint64>(0, d.value(20));
+            rate = pass + skip > 0 ? seed * pass / (pass + skip) : seed;
+            break;
+        }
+        default:
+            break;
     }
     d.set_measured(21, static_cast<qint32>(rate));
 }
@@ -258,10 +262,14 @@ builder ps_family(int type, const char *model, int emission, int companion) {
 }
 
 // Burst counts: pulses passed (52) and cut (53); the driver bursts while 53 is non-zero.
-void burst_counts(builder &b) { b.add({plain(52, 1), plain(53, 0)}); }
+void burst_counts(builder &b) {
+    b.add({plain(52, 1), plain(53, 0)});
+}
 
 // Synchronisation: pulse delay 71, sync delay 72 (0.1 ns, may be negative), sync mode 73.
-void sync_block(builder &b) { b.add({plain(71), plain(72), plain(73)}); }
+void sync_block(builder &b) {
+    b.add({plain(71), plain(72), plain(73)});
+}
 
 device_profile ps(int type, const char *model) {
     builder b = ps_family(type, model, 32, 34);

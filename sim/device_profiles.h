@@ -37,10 +37,10 @@ struct follower_def {
 
     int code = 0;
     kind_t kind = ramp;
-    double rate = 1;   // ramp: report units per second; settle: time constant in seconds
-    int gate = -1;     // register that must be non-zero for the set point to apply; -1: always
-    qint32 rest = 0;   // approached while the gate is off; also the set point after a reset
-    int scale = 1;     // report units per set-point unit
+    double rate = 1;    // ramp: report units per second; settle: time constant in seconds
+    int gate = -1;      // register that must be non-zero for the set point to apply; -1: always
+    qint32 rest = 0;    // approached while the gate is off; also the set point after a reset
+    int scale = 1;      // report units per set-point unit
     int max_code = -1;  // configuration rows that bound the set point (-1: unbounded)
     int min_code = -1;
     int limit_scale = 1;  // set-point units per unit of the limit rows
@@ -80,8 +80,8 @@ struct device_profile {
     int emission_code = -1;     // register that switches emission (drive followers gate on it)
     int alarm_code = -1;        // alarm word register
     int alarm_clear_code = -1;  // a write to it clears the alarm word
-    int store_code = -1;        // makes the device store its configuration rows; -1: stored on write
-    bool answers_fa = false;    // also reachable at the fixed address 0xFA
+    int store_code = -1;      // makes the device store its configuration rows; -1: stored on write
+    bool answers_fa = false;  // also reachable at the fixed address 0xFA
     // Behaviour that is not a straight line of another register; run after every change.
     void (*update)(sim_device &) = nullptr;
 

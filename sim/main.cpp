@@ -5,10 +5,10 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
-#include <csignal>
-#include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
+#include <csignal>
+#include <cstdio>
 
 namespace {
 
@@ -29,7 +29,8 @@ bool catch_stop_signals() {
     action.sa_handler = on_signal;
     sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
-    return ::sigaction(SIGINT, &action, nullptr) == 0 && ::sigaction(SIGTERM, &action, nullptr) == 0;
+    return ::sigaction(SIGINT, &action, nullptr) == 0 &&
+           ::sigaction(SIGTERM, &action, nullptr) == 0;
 }
 
 }  // namespace

@@ -68,8 +68,8 @@ void sim_bus::advance(qint64 ms) {
 
 void sim_bus::schedule(qint64 at_ms, std::function<void()> event_fn) {
     event e{at_ms, next_order_++, std::move(event_fn)};
-    const auto pos = std::upper_bound(
-        events_.begin(), events_.end(), e, [](const event &a, const event &b) {
+    const auto pos =
+        std::upper_bound(events_.begin(), events_.end(), e, [](const event &a, const event &b) {
             return a.at_ms < b.at_ms || (a.at_ms == b.at_ms && a.order < b.order);
         });
     events_.insert(pos, std::move(e));

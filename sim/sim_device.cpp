@@ -74,7 +74,9 @@ qint32 sim_device::stored(int code) const {
     return it == flash_.end() ? 0 : it->second;
 }
 
-void sim_device::set_measured(int code, qint32 reading) { ram_[code] = reading; }
+void sim_device::set_measured(int code, qint32 reading) {
+    ram_[code] = reading;
+}
 
 QByteArray sim_device::handle(int code, qint32 written) {
     ++requests_;

@@ -15,11 +15,11 @@ inline constexpr int frame_length = 25;
 
 // One request as it arrives from the program.
 struct request {
-    int can_id = 0;      // the addressed device (the frame's own identifier)
-    int code = 0;        // byte 0: bit 7 clear writes, bit 7 set reads (code & 0x7F)
-    int sender = 0;      // byte 1: the host's address
+    int can_id = 0;        // the addressed device (the frame's own identifier)
+    int code = 0;          // byte 0: bit 7 clear writes, bit 7 set reads (code & 0x7F)
+    int sender = 0;        // byte 1: the host's address
     quint16 reserved = 0;  // bytes 2-3
-    qint32 value = 0;    // bytes 4-7, two's complement
+    qint32 value = 0;      // bytes 4-7, two's complement
 };
 
 // Answer text for a device at `can_id` reporting (code, value), with `sender` in byte 1, the

@@ -61,8 +61,9 @@ struct reader {
     bool check_type(const QString &option, const QString &value, qint64 type) const {
         return sim::find_profile(static_cast<int>(type)) ||
                fail(option, value,
-                    QStringLiteral("type %1 is not modelled (modelled: %2)").arg(type).arg(
-                        type_list()));
+                    QStringLiteral("type %1 is not modelled (modelled: %2)")
+                        .arg(type)
+                        .arg(type_list()));
     }
 };
 
@@ -124,7 +125,8 @@ bool parse_sim_options(const QStringList &arguments, sim_options *options, QStri
         }
     }
 
-    const auto windows = [&](const QCommandLineOption &option, std::vector<sim_options::window> &out) {
+    const auto windows = [&](const QCommandLineOption &option,
+                             std::vector<sim_options::window> &out) {
         const QString name = option.names().first();
         for (const QString &v : parser.values(option)) {
             std::vector<qint64> f{0, 0, -1};
@@ -177,7 +179,8 @@ bool parse_sim_options(const QStringList &arguments, sim_options *options, QStri
 bool populate_bus(const sim_options &options, sim_bus &bus, QString *error) {
     for (const auto &d : options.devices) {
         if (!bus.add_device(d.can_id, d.type_id)) {
-            *error = QStringLiteral("cannot put a device of type %1 at %2").arg(d.type_id).arg(d.can_id);
+            *error =
+                QStringLiteral("cannot put a device of type %1 at %2").arg(d.type_id).arg(d.can_id);
             return false;
         }
     }
@@ -202,8 +205,8 @@ bool populate_bus(const sim_options &options, sim_bus &bus, QString *error) {
     }
     for (const auto &a : options.alarms) {
         if (!bus.schedule_alarm(a.can_id, a.bits, a.after_ms)) {
-            *error = QStringLiteral("--alarm: no device with an alarm word at CAN ID %1")
-                         .arg(a.can_id);
+            *error =
+                QStringLiteral("--alarm: no device with an alarm word at CAN ID %1").arg(a.can_id);
             return false;
         }
     }
@@ -220,10 +223,12 @@ QString sim_help_text() {
                "path) to Lumivox as its serial port. Runs until Ctrl-C (SIGINT) or SIGTERM, then\n"
                "exits with status 0.\n"
                "\n"
-               "The adapter answers \"O\", \"C\" and \"S0\"..\"S8\" with a carriage return, passes\n"
+               "The adapter answers \"O\", \"C\" and \"S0\"..\"S8\" with a carriage return, "
+               "passes\n"
                "frames to the bus once the channel is open and answers anything else with a bell.\n"
                "Each device answers the type request (0xD0) with its type, the identity request\n"
-               "(0xD1) with its CAN ID and every read of a register it has; it stores writes, ramps\n"
+               "(0xD1) with its CAN ID and every read of a register it has; it stores writes, "
+               "ramps\n"
                "its drive after emission is switched on, settles its temperature towards the set\n"
                "point and keeps its configuration rows once told to store them.\n"
                "\n"
@@ -231,7 +236,8 @@ QString sim_help_text() {
                "  --device ID:TYPE        a device of type TYPE at CAN ID ID (repeatable).\n"
                "  --every-type            one device of every modelled type, at the lowest free\n"
                "                          CAN IDs from 1 up, in the order of the type ids.\n"
-               "  --link PATH             also make PATH a symbolic link to the slave end (an older\n"
+               "  --link PATH             also make PATH a symbolic link to the slave end (an "
+               "older\n"
                "                          link there is replaced; removed again on exit).\n"
                "  --trace                 print every request and answer on standard error.\n"
                "\n"
@@ -241,7 +247,8 @@ QString sim_help_text() {
                "                          (default 0), and answers again FOR ms later (default:\n"
                "                          never). Lumivox loses it after 52 of its ticks.\n"
                "  --garbage ID[:AFTER[:FOR]]\n"
-               "                          the device answers with 25 characters of noise instead of\n"
+               "                          the device answers with 25 characters of noise instead "
+               "of\n"
                "                          frames, in the same window form as --silent.\n"
                "  --change-type ID:TYPE[:AFTER]\n"
                "                          the device at ID becomes a device of TYPE (fresh\n"
@@ -258,6 +265,7 @@ QString sim_help_text() {
                "  -h, --help              this text.\n"
                "\n"
                "Modelled types: %1.\n"
-               "Example: lumivox-sim --device 1:14 --device 2:20 --silent 2:5000:3000 --link /tmp/lumivox\n")
+               "Example: lumivox-sim --device 1:14 --device 2:20 --silent 2:5000:3000 --link "
+               "/tmp/lumivox\n")
         .arg(type_list());
 }

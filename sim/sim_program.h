@@ -12,7 +12,8 @@
 #include <memory>
 
 // The lumivox-sim program without its main(): the bus from the options, the pseudo-terminal, the
-// optional link, a real-time clock that advances the bus, and the hang-up (and re-plug) of the line.
+// optional link, a real-time clock that advances the bus, and the hang-up (and re-plug) of the
+// line.
 class sim_program : public QObject {
     Q_OBJECT
 public:

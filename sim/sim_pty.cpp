@@ -4,12 +4,12 @@
 #include <QFileInfo>
 #include <QSocketNotifier>
 
-#include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <pty.h>
 #include <termios.h>
 #include <unistd.h>
+#include <cerrno>
+#include <cstring>
 
 sim_pty::sim_pty(sim_bus &bus, QObject *parent) : QObject(parent), adapter_(bus) {}
 

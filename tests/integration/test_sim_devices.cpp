@@ -90,7 +90,8 @@ struct answer {
 answer check_answer(const QByteArray &text) {
     answer a{text, {}, {}};
     if (text.size() != 26 || !text.endsWith('\r')) {
-        a.problem = QStringLiteral("not one 25-character line ending in CR: %1").arg(QString::fromLatin1(text.toPercentEncoding()));
+        a.problem = QStringLiteral("not one 25-character line ending in CR: %1")
+                        .arg(QString::fromLatin1(text.toPercentEncoding()));
         return a;
     }
     const QByteArray body = text.left(25);
@@ -198,7 +199,8 @@ private slots:
         }
         for (int code : codes) {
             const answer a = r.read(id, code);
-            QVERIFY2(a.problem.isEmpty(), qPrintable(QStringLiteral("code %1: %2").arg(code).arg(a.problem)));
+            QVERIFY2(a.problem.isEmpty(),
+                     qPrintable(QStringLiteral("code %1: %2").arg(code).arg(a.problem)));
             QCOMPARE(a.frame.sender, id);
             QCOMPARE(a.frame.code, code);
             QCOMPARE(long(a.frame.value), long(dev->value(code - 128)));
@@ -318,9 +320,9 @@ private slots:
     void drive_set_point_is_held_to_the_configured_maximum_data() {
         QTest::addColumn<int>("type");
         QTest::addColumn<int>("emission");
-        QTest::addColumn<long>("max_row");    // the new "Max current" row value
-        QTest::addColumn<long>("set");        // a set point above it
-        QTest::addColumn<long>("reading");    // what the drive settles at
+        QTest::addColumn<long>("max_row");  // the new "Max current" row value
+        QTest::addColumn<long>("set");      // a set point above it
+        QTest::addColumn<long>("reading");  // what the drive settles at
         QTest::newRow("CW, 0.1 mA") << 14 << 16 << 10000L << 15000L << 10000L;
         QTest::newRow("precision CW, 0.01 mA set, 0.0001 mA reported")
             << 15 << 16 << 20000L << 30000L << 2000000L;
@@ -395,7 +397,8 @@ private slots:
         }
         r.bus.advance(500);
         const long moving = *r.value(6, 146);
-        QVERIFY2((moving - start) * (reading - start) > 0 && qAbs(moving - start) < qAbs(reading - start),
+        QVERIFY2((moving - start) * (reading - start) > 0 &&
+                     qAbs(moving - start) < qAbs(reading - start),
                  qPrintable(QStringLiteral("%1 -> %2 -> %3").arg(start).arg(moving).arg(reading)));
         r.bus.advance(120000);
         QCOMPARE(r.value(6, 146), std::optional<long>(reading));
@@ -461,7 +464,8 @@ private slots:
             } else if (type == 4 || type == 5) {
                 continue;  // the CAN ID is their only row: can_id_change_takes_effect_after_reset
             }
-            QTest::newRow(qPrintable(QStringLiteral("type %1").arg(type))) << type << store << value;
+            QTest::newRow(qPrintable(QStringLiteral("type %1").arg(type)))
+                << type << store << value;
         }
     }
     void store_keeps_configuration_over_a_reset() {

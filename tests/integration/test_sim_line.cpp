@@ -13,11 +13,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <csignal>
 #include <fcntl.h>
 #include <poll.h>
 #include <termios.h>
 #include <unistd.h>
+#include <csignal>
 
 namespace {
 
@@ -83,8 +83,7 @@ QString next_line(QProcess &process, int timeout_ms = 5000) {
             break;
         }
     }
-    return process.canReadLine() ? QString::fromLocal8Bit(process.readLine()).trimmed()
-                                 : QString();
+    return process.canReadLine() ? QString::fromLocal8Bit(process.readLine()).trimmed() : QString();
 }
 
 const QString sim_exe = QStringLiteral(LUMIVOX_SIM_EXE);
@@ -107,8 +106,8 @@ private slots:
         QTest::newRow("unknown command") << c{"V\r\r\n"} << QByteArray("\a") << 0;
         QTest::newRow("bit rate out of range") << c{"S9\r"} << QByteArray("\a") << 0;
         QTest::newRow("TTL tester text") << c{"Start_TTL\r\r\n"} << QByteArray("\a") << 0;
-        QTest::newRow("frame before the channel is open") << c{type_req + "\r\n"}
-                                                          << QByteArray("\a") << 0;
+        QTest::newRow("frame before the channel is open")
+            << c{type_req + "\r\n"} << QByteArray("\a") << 0;
         QTest::newRow("frame after open, extra line ends ignored")
             << c{"O\r\r\n", type_req + "\r\n"} << QByteArray("\r") << 1;
         QTest::newRow("frame split across reads")
@@ -116,10 +115,9 @@ private slots:
         QByteArray bad_crc = type_req.left(25);
         bad_crc[24] = bad_crc.at(24) == '0' ? '1' : '0';
         QTest::newRow("bad checksum") << c{"O\r", bad_crc + "\r"} << QByteArray("\r\a") << 0;
-        QTest::newRow("short frame") << c{"O\r", type_req.left(20) + "\r"} << QByteArray("\r\a")
-                                     << 0;
-        QTest::newRow("closed again") << c{"O\rC\r", type_req + "\r"} << QByteArray("\r\r\a")
-                                      << 0;
+        QTest::newRow("short frame")
+            << c{"O\r", type_req.left(20) + "\r"} << QByteArray("\r\a") << 0;
+        QTest::newRow("closed again") << c{"O\rC\r", type_req + "\r"} << QByteArray("\r\r\a") << 0;
         QTest::newRow("overlong line") << c{QByteArray(200, 'x') + "\r"} << QByteArray("\a") << 0;
     }
     void adapter_answers_like_slcan() {
@@ -176,8 +174,8 @@ private slots:
         port_end port(pty.slave_path());
         QVERIFY(port.ok());
         QSignalSpy received(&pty, &sim_pty::sig_received);
-        QVERIFY(port.write("O\r\r\nS6\r\r\n" + request(3, 0xD0) + "\r\n" + request(3, 0xD1) +
-                           "\r\n"));
+        QVERIFY(
+            port.write("O\r\r\nS6\r\r\n" + request(3, 0xD0) + "\r\n" + request(3, 0xD1) + "\r\n"));
         QTRY_COMPARE((port.take(), port.received().count('\r')), 4);
         const QList<QByteArray> lines = port.received().split('\r');
         QCOMPARE(frame_codec::parse(QString::fromLatin1(lines.at(2))).value, 23);
@@ -249,18 +247,22 @@ private slots:
         QTest::addColumn<QStringList>("args");
         QTest::addColumn<QString>("devices");  // "id:type ..." as read
         QTest::addColumn<QString>("faults");   // the faults as read
-        QTest::newRow("devices")
-            << QStringList{"--device", "1:14", "--device", "0x20:20"} << "1:14 32:20" << "";
+        QTest::newRow("devices") << QStringList{"--device", "1:14", "--device", "0x20:20"}
+                                 << "1:14 32:20"
+                                 << "";
         QTest::newRow("windows with defaults")
-            << QStringList{"--device", "2:23", "--silent", "2", "--garbage", "2:100",
-                           "--silent", "2:0x10:300"}
-            << "2:23" << "silent 2@0+-1 silent 2@16+300 garbage 2@100+-1";
+            << QStringList{"--device",  "2:23",  "--silent", "2",
+                           "--garbage", "2:100", "--silent", "2:0x10:300"}
+            << "2:23"
+            << "silent 2@0+-1 silent 2@16+300 garbage 2@100+-1";
         QTest::newRow("type change, alarm, hang-up")
-            << QStringList{"--device", "3:14", "--change-type", "3:20:500", "--alarm", "3:0x102",
-                           "--hangup-after", "900:50"}
-            << "3:14" << "type 3->20@500 alarm 3=258@0 hangup 900+50";
+            << QStringList{"--device", "3:14",    "--change-type",  "3:20:500",
+                           "--alarm",  "3:0x102", "--hangup-after", "900:50"}
+            << "3:14"
+            << "type 3->20@500 alarm 3=258@0 hangup 900+50";
         QTest::newRow("every type after a given one")
-            << QStringList{"--device", "2:4", "--every-type"} << "" << "every";
+            << QStringList{"--device", "2:4", "--every-type"} << ""
+            << "every";
     }
     void command_line_is_read() {
         QFETCH(QStringList, args);
@@ -311,19 +313,28 @@ private slots:
         QTest::addColumn<QStringList>("args");
         QTest::addColumn<QString>("message");  // part of the error, "" when parsing passes
         QTest::addColumn<QString>("populate_message");
-        QTest::newRow("type not modelled") << QStringList{"--device", "1:24"} << "not modelled" << "";
-        QTest::newRow("id twice") << QStringList{"--device", "1:14", "--device", "1:20"}
-                                  << "twice" << "";
-        QTest::newRow("id too large") << QStringList{"--device", "0x800:14"} << "0x7FF" << "";
-        QTest::newRow("not a number") << QStringList{"--silent", "two"} << "ID[:AFTER_MS" << "";
-        QTest::newRow("negative time") << QStringList{"--silent", "1:-5"} << "ID[:AFTER_MS" << "";
-        QTest::newRow("unknown option") << QStringList{"--bogus"} << "bogus" << "";
-        QTest::newRow("stray argument") << QStringList{"14"} << "unexpected" << "";
-        QTest::newRow("alarm without bits") << QStringList{"--alarm", "1:0"} << "BITS" << "";
+        QTest::newRow("type not modelled") << QStringList{"--device", "1:24"} << "not modelled"
+                                           << "";
+        QTest::newRow("id twice") << QStringList{"--device", "1:14", "--device", "1:20"} << "twice"
+                                  << "";
+        QTest::newRow("id too large") << QStringList{"--device", "0x800:14"} << "0x7FF"
+                                      << "";
+        QTest::newRow("not a number") << QStringList{"--silent", "two"} << "ID[:AFTER_MS"
+                                      << "";
+        QTest::newRow("negative time") << QStringList{"--silent", "1:-5"} << "ID[:AFTER_MS"
+                                       << "";
+        QTest::newRow("unknown option") << QStringList{"--bogus"} << "bogus"
+                                        << "";
+        QTest::newRow("stray argument") << QStringList{"14"} << "unexpected"
+                                        << "";
+        QTest::newRow("alarm without bits") << QStringList{"--alarm", "1:0"} << "BITS"
+                                            << "";
         QTest::newRow("fault on an empty address")
-            << QStringList{"--device", "1:14", "--garbage", "2"} << "" << "no device at CAN ID 2";
+            << QStringList{"--device", "1:14", "--garbage", "2"} << ""
+            << "no device at CAN ID 2";
         QTest::newRow("alarm on a type without alarm word")
-            << QStringList{"--device", "1:20", "--alarm", "1:1"} << "" << "alarm word";
+            << QStringList{"--device", "1:20", "--alarm", "1:1"} << ""
+            << "alarm word";
     }
     void command_line_errors() {
         QFETCH(QStringList, args);
