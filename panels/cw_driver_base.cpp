@@ -48,15 +48,21 @@ void cw_driver_base::confirm_main_setpoint() {
     }
 }
 
-void cw_driver_base::on_on_off_button_clicked(bool checked) { emission_switch_clicked(checked); }
+void cw_driver_base::on_on_off_button_clicked(bool checked) {
+    emission_switch_clicked(checked);
+}
 
-void cw_driver_base::on_mode_activated(int index) { queue_command(mode_code, index); }
+void cw_driver_base::on_mode_activated(int index) {
+    queue_command(mode_code, index);
+}
 
 void cw_driver_base::on_step_size_combo_activated(int /*index*/) {
     w_.spin->setSingleStep(w_.step_size_combo->currentText().toDouble());
 }
 
-void cw_driver_base::on_chb_tec_clicked(bool checked) { queue_tec(checked); }
+void cw_driver_base::on_chb_tec_clicked(bool checked) {
+    queue_tec(checked);
+}
 
 void cw_driver_base::refresh_display() {
     if (power_mode()) {
@@ -119,8 +125,8 @@ bool cw_driver_base::load_setpoints() {
 }
 
 QString cw_driver_base::header_summary() const {
-    const QString main = power_mode() ? power_text_ + QLatin1Char('/') + w_.power_label->text()
-                                      : current_text_ + QLatin1Char('/') +
-                                            w_.current_ld_label->text();
+    const QString main = power_mode()
+                             ? power_text_ + QLatin1Char('/') + w_.power_label->text()
+                             : current_text_ + QLatin1Char('/') + w_.current_ld_label->text();
     return main + QLatin1Char(' ') + temperature_text_ + QLatin1Char('/') + w_.temp_label->text();
 }

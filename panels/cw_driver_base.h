@@ -123,8 +123,7 @@ protected:
 
     // Binds the form's widgets and the codes common to the family; `parameters` is the panel's
     // list, `plan` its poll list.
-    void setup_driver(const widgets &form, const poll_plan &plan,
-                      const parameter_list &parameters);
+    void setup_driver(const widgets &form, const poll_plan &plan, const parameter_list &parameters);
 
     void refresh_display() override;
     bool load_setpoints() override;

@@ -82,4 +82,6 @@ void cw_panel::set_mode_widgets_visible(bool visible) {
     ui->mode_state_title->setVisible(visible);
 }
 
-void cw_panel::on_pb_alarm_clicked() { show_alarm_details(); }
+void cw_panel::on_pb_alarm_clicked() {
+    show_alarm_details();
+}

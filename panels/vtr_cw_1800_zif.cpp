@@ -25,8 +25,7 @@ cw_driver_base::resolution precision_resolution() {
 }  // namespace
 
 vtr_cw_1800_zif::vtr_cw_1800_zif(QWidget *parent)
-    : cw_driver_base(parent, precision_resolution()),
-      ui(new Ui::vtr_cw_1800_zif) {
+    : cw_driver_base(parent, precision_resolution()), ui(new Ui::vtr_cw_1800_zif) {
     ui->setupUi(this);
 
     // Position 3 is an idle tick; the device has no alarm word.

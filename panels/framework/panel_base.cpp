@@ -22,7 +22,9 @@
 namespace {
 
 // Readings (as opposed to parameters) are unknown while they hold -1.0 in every panel.
-bool reading_known(double value) { return value != -1.0; }
+bool reading_known(double value) {
+    return value != -1.0;
+}
 
 // A widget given a style sheet of its own stops inheriting its parent's font; keep the form's.
 void restyle(QWidget *widget, const QString &sheet) {
@@ -42,7 +44,9 @@ QString panel_base::usb_can_id_hint() {
         "mode\" is set in Settings tab.");
 }
 
-panel_base::~panel_base() { delete dialog_.data(); }
+panel_base::~panel_base() {
+    delete dialog_.data();
+}
 
 void panel_base::set_display_name(const QString &name) {
     device_panel::set_display_name(name);
@@ -82,13 +86,19 @@ QList<QWidget *> panel_base::setpoint_widgets() const {
     return sending;
 }
 
-config_dialog *panel_base::configuration_dialog() const { return dialog_.data(); }
+config_dialog *panel_base::configuration_dialog() const {
+    return dialog_.data();
+}
 
-bool panel_base::body_shown() const { return body_ && !body_->isHidden(); }
+bool panel_base::body_shown() const {
+    return body_ && !body_->isHidden();
+}
 
 // --- Sending ----------------------------------------------------------------------------------
 
-void panel_base::queue_command(int code, long value) { queue_.append(panel_command{code, value}); }
+void panel_base::queue_command(int code, long value) {
+    queue_.append(panel_command{code, value});
+}
 
 void panel_base::sl_refresh_state() {
     if (!queue_.isEmpty()) {
@@ -107,7 +117,9 @@ void panel_base::emission_switch_clicked(bool checked) {
     }
 }
 
-void panel_base::on_start_stop_button_alt_clicked(bool checked) { emission_switch_clicked(checked); }
+void panel_base::on_start_stop_button_alt_clicked(bool checked) {
+    emission_switch_clicked(checked);
+}
 
 void panel_base::queue_tec(bool on) {
     if (tec_write_code_ >= 0) {
@@ -118,7 +130,8 @@ void panel_base::queue_tec(bool on) {
 // --- Receiving --------------------------------------------------------------------------------
 
 void panel_base::bind_reading(int code, double *field, double divisor) {
-    bind_reply(code, [field, divisor](long value) { *field = static_cast<double>(value) / divisor; });
+    bind_reply(code,
+               [field, divisor](long value) { *field = static_cast<double>(value) / divisor; });
 }
 
 void panel_base::bind_state(int code, int *field) {

@@ -46,7 +46,9 @@ QString panel_frame() {
         "stop: 0 #ffffff, stop: 1 #FFFFFF); border: 1px solid gray;}");
 }
 
-QString setpoint() { return QStringLiteral("background: rgb(255,255,255)"); }
+QString setpoint() {
+    return QStringLiteral("background: rgb(255,255,255)");
+}
 
 QString header_button() {
     return QStringLiteral(

@@ -8,7 +8,7 @@
 // 10 to the power `decimals`.
 struct parameter_record {
     int code = 0;
-    QString label;      // row label in the configuration dialog and object name of its spin box
+    QString label;  // row label in the configuration dialog and object name of its spin box
     int decimals = 0;
     double value = -1.0;  // physical value as last reported; the panel's unknown mark until then
     double step = 1.0;    // single step of the dialog's spin box

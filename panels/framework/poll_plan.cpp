@@ -6,7 +6,8 @@ int poll_plan::first_unknown_position() const {
 
 std::optional<int> poll_step(const poll_plan &plan, const parameter_list &parameters, int &index) {
     std::optional<int> request;
-    if (index >= 0 && index < plan.read_codes.size() && plan.read_codes[index] != poll_plan::silent) {
+    if (index >= 0 && index < plan.read_codes.size() &&
+        plan.read_codes[index] != poll_plan::silent) {
         request = plan.read_codes[index];
     }
     int count = plan.first_unknown_position() - 1;

@@ -6,7 +6,9 @@
 
 namespace scaling {
 
-double pow10(int decimals) { return std::pow(10.0, decimals); }
+double pow10(int decimals) {
+    return std::pow(10.0, decimals);
+}
 
 qint32 to_wire(double value, double scale) {
     double product = value * scale;

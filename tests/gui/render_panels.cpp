@@ -18,9 +18,9 @@
 namespace {
 
 // Plausible physical values of the common configuration parameters, by code.
-const QMap<int, double> parameter_values{
-    {81, 5},    {37, 1000}, {38, 100},   {66, 50},   {67, 1},    {55, 30},  {54, 15},
-    {22, 10000}, {21, 3950}, {51, 1.5}, {23, 2.0}, {68, 0.1}, {69, 0.02}, {70, 0}};
+const QMap<int, double> parameter_values{{81, 5},   {37, 1000}, {38, 100},   {66, 50},   {67, 1},
+                                         {55, 30},  {54, 15},   {22, 10000}, {21, 3950}, {51, 1.5},
+                                         {23, 2.0}, {68, 0.1},  {69, 0.02},  {70, 0}};
 
 // Device reports (code, raw value) per panel type, as a running device would send them.
 const QMap<int, QVector<QPair<int, long>>> readings{
@@ -64,8 +64,8 @@ void save(QWidget *widget, const QString &path) {
 
 int main(int argc, char *argv[]) {
     QApplication app(argc, argv);
-    const QString out = argc > 1 ? QString::fromLocal8Bit(argv[1])
-                                 : QStringLiteral("/tmp/panel_renders");
+    const QString out =
+        argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("/tmp/panel_renders");
     QDir().mkpath(out);
 
     panel_registry registry;

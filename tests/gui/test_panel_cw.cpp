@@ -23,14 +23,16 @@ using raw_table = QMap<int, long>;
 // both panels end up with the same physical limits: current 100 to 1000 mA, power 1 to 50 mW,
 // temperature 15 to 30 °C.
 raw_table cw_raw() {
-    return {{81, 5},  {37, 10000}, {38, 1000},  {66, 500},  {67, 10},   {55, 300}, {54, 150},
-            {22, 10000}, {21, 3950}, {51, 15}, {23, 200}, {68, 1000}, {69, 200}, {70, 0}};
+    return {{81, 5},     {37, 10000}, {38, 1000}, {66, 500}, {67, 10},   {55, 300}, {54, 150},
+            {22, 10000}, {21, 3950},  {51, 15},   {23, 200}, {68, 1000}, {69, 200}, {70, 0}};
 }
 raw_table precision_raw() {
-    return {{81, 5},  {37, 100000}, {38, 10000}, {66, 500},  {67, 10},   {55, 3000}, {54, 1500},
-            {22, 10000}, {21, 3950}, {51, 15}, {23, 200}, {68, 1000}, {69, 200}, {70, 0}};
+    return {{81, 5},     {37, 100000}, {38, 10000}, {66, 500}, {67, 10},   {55, 3000}, {54, 1500},
+            {22, 10000}, {21, 3950},   {51, 15},    {23, 200}, {68, 1000}, {69, 200},  {70, 0}};
 }
-raw_table raw_for(int type) { return type == 15 ? precision_raw() : cw_raw(); }
+raw_table raw_for(int type) {
+    return type == 15 ? precision_raw() : cw_raw();
+}
 
 // Reports every parameter the panel has, from `table`.
 void report_known(panel_base &panel, const raw_table &table) {
@@ -164,14 +166,20 @@ private slots:
         QTest::addColumn<bool>("limits_known");  // else the form's initial limits
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("sent");
-        QTest::newRow("0.29 mA is 2, not 3") << 14 << 0 << "spin" << false << "0.29" << "(17,2)";
-        QTest::newRow("current") << 14 << 1 << "spin" << true << "512.7" << "(17,5127)";
-        QTest::newRow("power in mode 3") << 14 << 3 << "spin" << true << "12.3" << "(65,1230)";
-        QTest::newRow("temperature") << 14 << 0 << "spin_temp" << true << "20.5" << "(18,205)";
-        QTest::newRow("34 current") << 34 << 0 << "spin" << true << "100.1" << "(17,1001)";
+        QTest::newRow("0.29 mA is 2, not 3") << 14 << 0 << "spin" << false << "0.29"
+                                             << "(17,2)";
+        QTest::newRow("current") << 14 << 1 << "spin" << true << "512.7"
+                                 << "(17,5127)";
+        QTest::newRow("power in mode 3") << 14 << 3 << "spin" << true << "12.3"
+                                         << "(65,1230)";
+        QTest::newRow("temperature") << 14 << 0 << "spin_temp" << true << "20.5"
+                                     << "(18,205)";
+        QTest::newRow("34 current") << 34 << 0 << "spin" << true << "100.1"
+                                    << "(17,1001)";
         QTest::newRow("precision current") << 15 << 0 << "spin" << false << "12.34"
                                            << "(17,1234)";
-        QTest::newRow("precision power") << 15 << 3 << "spin" << true << "1.23" << "(65,123)";
+        QTest::newRow("precision power") << 15 << 3 << "spin" << true << "1.23"
+                                         << "(65,123)";
         QTest::newRow("precision 25.50 °C") << 15 << 0 << "spin_temp" << true << "25.50"
                                             << "(18,255000)";
     }
@@ -202,17 +210,24 @@ private slots:
         QTest::addColumn<int>("value");
         QTest::addColumn<QString>("label");
         QTest::addColumn<QString>("text");
-        QTest::newRow("current") << 14 << 145 << 123 << "current_ld_label" << "12.3 mA";
-        QTest::newRow("negative temperature") << 14 << 146 << -15 << "temp_label" << "-1.5 °C";
-        QTest::newRow("power") << 14 << 148 << 57 << "power_label" << "5.7 mW";
-        QTest::newRow("mode") << 14 << 164 << 2 << "mode_label" << "External TTL";
-        QTest::newRow("emission") << 14 << 144 << 1 << "power_state_label" << "ON";
+        QTest::newRow("current") << 14 << 145 << 123 << "current_ld_label"
+                                 << "12.3 mA";
+        QTest::newRow("negative temperature") << 14 << 146 << -15 << "temp_label"
+                                              << "-1.5 °C";
+        QTest::newRow("power") << 14 << 148 << 57 << "power_label"
+                               << "5.7 mW";
+        QTest::newRow("mode") << 14 << 164 << 2 << "mode_label"
+                              << "External TTL";
+        QTest::newRow("emission") << 14 << 144 << 1 << "power_state_label"
+                                  << "ON";
         QTest::newRow("precision current /10000") << 15 << 145 << 123456 << "current_ld_label"
                                                   << "12.35 mA";
         QTest::newRow("precision temperature") << 15 << 146 << 255000 << "temp_label"
                                                << "25.50 °C";
-        QTest::newRow("precision power /10") << 15 << 148 << 123 << "power_label" << "12.30 mW";
-        QTest::newRow("precision mode") << 15 << 164 << 3 << "mode_label" << "Const.Power";
+        QTest::newRow("precision power /10") << 15 << 148 << 123 << "power_label"
+                                             << "12.30 mW";
+        QTest::newRow("precision mode") << 15 << 164 << 3 << "mode_label"
+                                        << "Const.Power";
     }
     void reports_are_scaled() {
         QFETCH(int, type);
@@ -230,8 +245,8 @@ private slots:
         QTest::addColumn<QStringList>("current_limits");  // max, min labels
         QTest::addColumn<QStringList>("power_limits");
         QTest::newRow("cw") << 14 << QStringList{"1000.0", "100.0"} << QStringList{"50.00", "1.00"};
-        QTest::newRow("precision") << 15 << QStringList{"1000.00", "100.00"}
-                                   << QStringList{"50.00", "1.00"};
+        QTest::newRow("precision")
+            << 15 << QStringList{"1000.00", "100.00"} << QStringList{"50.00", "1.00"};
     }
     void mode_3_switches_the_main_setpoint() {
         QFETCH(int, type);
@@ -330,7 +345,8 @@ private slots:
         panel->configuration_dialog()->write_button()->click();
         const QVector<panel_command> sent = run_ticks(*panel, 30);
         QCOMPARE(text_of(sent.mid(0, 3)), QStringLiteral("(81,5) (37,10000) (38,1000)"));
-        QCOMPARE(text_of(sent.mid(11, 5)), QStringLiteral("(68,1000) (69,200) (70,0) (209,0) (165,0)"));
+        QCOMPARE(text_of(sent.mid(11, 5)),
+                 QStringLiteral("(68,1000) (69,200) (70,0) (209,0) (165,0)"));
         QCOMPARE(text_of(sent.mid(27, 3)), QStringLiteral("(198,0) (82,0) (144,0)"));
         // The dialog stays open.
         QVERIFY(panel->configuration_dialog());
@@ -471,7 +487,8 @@ private slots:
         child<QPushButton>(*panel, "start_stop_button_alt")->click();
         child<QCheckBox>(*panel, "chb_tec")->click();
         QTest::keyClick(child<QComboBox>(*panel, "mode"), Qt::Key_Down);
-        QCOMPARE(text_of(run_ticks(*panel, 5)), QStringLiteral("(16,1) (16,1) (33,1) (36,1) (144,0)"));
+        QCOMPARE(text_of(run_ticks(*panel, 5)),
+                 QStringLiteral("(16,1) (16,1) (33,1) (36,1) (144,0)"));
         QVERIFY(boxes->shown.isEmpty());
     }
 

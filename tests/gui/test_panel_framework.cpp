@@ -15,7 +15,9 @@ using namespace panel_test;
 namespace {
 
 // A distinct, plausible raw value for the parameter at `position`.
-long raw_value(int position) { return 1000 + 37 * position; }
+long raw_value(int position) {
+    return 1000 + 37 * position;
+}
 
 // What one full cycle of `panel` should send, built from its plan: each fixed position (silent
 // ones and positions past the end of the list send nothing), then, when `with_unknown`, a read of
@@ -24,8 +26,8 @@ QVector<panel_command> expected_cycle(const panel_base &panel, bool with_unknown
     const poll_plan &plan = panel.plan();
     QVector<panel_command> cycle;
     for (int position = 0; position < plan.first_unknown_position(); ++position) {
-        const int code = position < plan.read_codes.size() ? plan.read_codes[position]
-                                                            : poll_plan::silent;
+        const int code =
+            position < plan.read_codes.size() ? plan.read_codes[position] : poll_plan::silent;
         cycle.append(code == poll_plan::silent ? nothing : panel_command{code, 0});
     }
     if (with_unknown) {
@@ -99,13 +101,15 @@ private slots:
     // The catcher sees what the form loader prints for a misspelled by-name slot.
     void warning_catcher_sees_a_misspelled_slot() {
         warning_catcher catcher;
-        QTest::ignoreMessage(QtWarningMsg, "QMetaObject::connectSlotsByName: No matching signal "
-                                           "for on_pb_alarn_clicked()");
+        QTest::ignoreMessage(QtWarningMsg,
+                             "QMetaObject::connectSlotsByName: No matching signal "
+                             "for on_pb_alarn_clicked()");
         misspelled_form form;
         QCOMPARE(catcher.warnings.size(), 1);
     }
 
-    // --- Poll cycle -------------------------------------------------------------------------------
+    // --- Poll cycle
+    // -------------------------------------------------------------------------------
 
     void unknown_rows_are_read_once_per_cycle_data() { add_panel_types(); }
     void unknown_rows_are_read_once_per_cycle() {
@@ -196,7 +200,8 @@ private slots:
         QCOMPARE(panel->queued_commands(), 0);
     }
 
-    // --- Wheel ------------------------------------------------------------------------------------
+    // --- Wheel
+    // ------------------------------------------------------------------------------------
 
     // Without the panel's filter, the same wheel turn moves a spin box and a combo box.
     void wheel_moves_plain_widgets() {
@@ -233,7 +238,8 @@ private slots:
         QCOMPARE(panel->queued_commands(), 0);
     }
 
-    // --- Indicators -------------------------------------------------------------------------------
+    // --- Indicators
+    // -------------------------------------------------------------------------------
 
     // Limits not yet apart (maximum equal to minimum) leave every bar within its range.
     void zero_span_keeps_the_bars_in_range_data() { add_panel_types(); }
@@ -255,7 +261,8 @@ private slots:
         }
     }
 
-    // --- Configuration dialog ---------------------------------------------------------------------
+    // --- Configuration dialog
+    // ---------------------------------------------------------------------
 
     void dialog_rows_follow_the_parameters_data() { add_panel_types(); }
     void dialog_rows_follow_the_parameters() {
@@ -322,7 +329,8 @@ private slots:
         QCOMPARE(text_of(run_ticks(*panel, 1)), text_of({expected_cycle(*panel, false).first()}));
     }
 
-    // --- Header -----------------------------------------------------------------------------------
+    // --- Header
+    // -----------------------------------------------------------------------------------
 
     void header_collapses_with_a_summary_data() { add_panel_types(); }
     void header_collapses_with_a_summary() {
@@ -351,7 +359,8 @@ private slots:
         QCOMPARE(panel->type_name(), registry().find(type)->model);
     }
 
-    // --- Pure parts ---------------------------------------------------------------------------------
+    // --- Pure parts
+    // ---------------------------------------------------------------------------------
 
     void scaling_truncates_data() {
         QTest::addColumn<double>("value");

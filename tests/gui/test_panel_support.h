@@ -39,7 +39,8 @@ inline QList<int> panel_types() {
 }
 
 // The panel of `type` as the device builds it, named as a device would name it.
-inline std::unique_ptr<panel_base> make_panel(int type, const QString &name = QStringLiteral("Seed"),
+inline std::unique_ptr<panel_base> make_panel(int type,
+                                              const QString &name = QStringLiteral("Seed"),
                                               QWidget *host = nullptr) {
     device_panel *created = registry().create(type, host);
     auto *panel = dynamic_cast<panel_base *>(created);
@@ -172,8 +173,9 @@ void report_parameters(panel_base &panel, Raw raw) {
 // a positive `notches`, down for a negative one.
 inline void turn_wheel(QWidget *widget, int notches) {
     const QPointF centre(widget->width() / 2.0, widget->height() / 2.0);
-    QWheelEvent wheel(centre, QPointF(widget->mapToGlobal(centre.toPoint())), QPoint(), QPoint(0, 120 * notches),
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent wheel(centre, QPointF(widget->mapToGlobal(centre.toPoint())), QPoint(),
+                      QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
     QApplication::sendEvent(widget, &wheel);
 }
 
