@@ -40,7 +40,14 @@ struct panel_command {
 //
 // Every panel form carries the header widgets `laser_tab_button`, `alt_but_widget` with
 // `start_stop_button_alt`, `laser_name_label` and `toolButton`; the slots below that the form
-// loader connects by name rely on them.
+// loader connects by name rely on them. Emission switches named `on_off_button` or `pb_on_off`,
+// every progress bar and a frame named `groupBox` get the common look.
+//
+// A panel's constructor, in this order: ui->setupUi(this); set_poll_plan(); set_parameters();
+// the bind_...() calls for its replies, set-points, emission, TEC and alarm; the set_...() calls
+// where its dialog differs (store commands, live change, hint); finish_setup(body). It overrides
+// refresh_display(), load_setpoints() and header_summary(), and declares the by-name slots of
+// its own widgets, each a line that calls into the services below.
 class panel_base : public device_panel {
     Q_OBJECT
 public:
