@@ -1,0 +1,161 @@
+// The whole program against the device simulator: the real main window with its configuration
+// file, serial link, devices and panels, talking to simulated devices over a pseudo-terminal.
+#include "device.h"
+#include "main_window.h"
+#include "message_route.h"
+#include "panel_registry.h"
+#include "panels.h"
+#include "sim_bus.h"
+#include "sim_pty.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+namespace {
+
+constexpr int cw_id = 1;         // type 14, the CW driver panel
+constexpr int precision_id = 2;  // type 15, the precision CW panel
+constexpr int picosecond_id = 3; // type 20, a type whose panel class the program does not have
+
+}  // namespace
+
+class test_program_sim : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir dir;
+    QString previous_dir;
+    panel_registry registry;
+    sim_bus bus;
+    sim_pty *line = nullptr;
+    QTimer clock;
+    main_window *window = nullptr;
+    QList<QString> boxes;
+
+    device_panel *panel_of(int slot) const { return window->devices().at(slot)->current_panel(); }
+
+private slots:
+    void initTestCase() {
+        QVERIFY(dir.isValid());
+        previous_dir = QDir::currentPath();
+        QDir::setCurrent(dir.path());
+        register_panels(registry);
+
+        QVERIFY(bus.add_device(cw_id, 14));
+        QVERIFY(bus.add_device(precision_id, 15));
+        QVERIFY(bus.add_device(picosecond_id, 20));
+        line = new sim_pty(bus, this);
+        QVERIFY(line->open());
+        // The simulated devices move in real time, as hardware does.
+        connect(&clock, &QTimer::timeout, this, [this] { bus.advance(10); });
+        clock.start(10);
+
+        // A configuration as the operator would have saved it: automatic connection to the line.
+        QDir().mkpath(QStringLiteral("configs"));
+        QSettings ini(QStringLiteral("configs/config.ini"), QSettings::IniFormat);
+        ini.setValue("prev_port", line->slave_path());
+        ini.setValue("mini_usb_mode", false);
+        ini.setValue("autoconnection_mode", true);
+        ini.setValue("device_count", 3);
+        const int ids[] = {cw_id, precision_id, picosecond_id};
+        for (int n = 0; n < 3; ++n) {
+            ini.setValue(QStringLiteral("device_%1").arg(n), ids[n]);
+            ini.setValue(QStringLiteral("name_device_%1").arg(n), QStringLiteral("Bench %1").arg(n));
+        }
+        ini.sync();
+
+        set_message_answerer([this](const message_request &request) {
+            boxes << request.title + QLatin1Char('|') + request.text;
+            return QMessageBox::Yes;
+        });
+        window = new main_window(QStringLiteral("Veltrano"), &registry);
+        window->initialise_from_config();
+        window->show();
+    }
+
+    void cleanupTestCase() {
+        delete window;  // stops every thread; the test would abort if one were left running
+        set_message_answerer({});
+        QDir::setCurrent(previous_dir);
+    }
+
+    void devices_are_found_and_panels_built() {
+        QTRY_VERIFY_WITH_TIMEOUT(panel_of(0) && panel_of(1), 10000);
+        QCOMPARE(panel_of(0)->type_name(), QStringLiteral("VTR-CW-1800"));
+        QCOMPARE(panel_of(1)->type_name(), QStringLiteral("VTR-CW-1800H precision"));
+        QCOMPARE(panel_of(0)->display_name(), QStringLiteral("Bench 0"));
+        // The panels sit in their containers on the Main page.
+        QCOMPARE(panel_of(0)->parentWidget(), window->containers().at(0));
+        QCOMPARE(panel_of(1)->parentWidget(), window->containers().at(1));
+        // Type 20 is learned, but there is no panel for it.
+        QTRY_COMPARE(window->devices().at(2)->type_id(), 20);
+        QVERIFY(!panel_of(2));
+    }
+
+    void poll_cycles_settle() {
+        // Once every configuration row is known (emission and TEC off), the configuration
+        // button is enabled; the rows come from the simulated device's own table.
+        for (int slot : {0, 1}) {
+            auto *configure = panel_of(slot)->findChild<QAbstractButton *>("toolButton");
+            QVERIFY(configure);
+            QTRY_VERIFY_WITH_TIMEOUT(configure->isEnabled(), 15000);
+        }
+        auto *model = panel_of(0)->findChild<QLabel *>("laser_name_label");
+        QCOMPARE(model->text(), QStringLiteral("VTR-CW-1800"));
+    }
+
+    void confirmed_set_point_reaches_the_device() {
+        auto *temperature = panel_of(0)->findChild<QDoubleSpinBox *>("spin_temp");
+        QVERIFY(temperature);
+        temperature->setFocus();
+        temperature->setValue(21.5);
+        boxes.clear();
+        QTest::keyClick(temperature, Qt::Key_Return);
+        QCOMPARE(boxes, QStringList{"Conformation|Send command on Bench 0?"});
+        QTRY_COMPARE_WITH_TIMEOUT(bus.find(cw_id)->set_point(18), 215, 5000);
+    }
+
+    void emission_round_trip() {
+        auto *emission_switch = panel_of(0)->findChild<QAbstractButton *>("on_off_button");
+        QVERIFY(emission_switch);
+        auto *state = panel_of(0)->findChild<QLabel *>("power_state_label");
+        auto *summary = window->findChild<QLabel *>("emission_label");
+        QVERIFY(state && summary);
+        QCOMPARE(summary->text(), QStringLiteral("Emission: OFF"));
+        emission_switch->click();
+        // Written, reported back by the device, shown by the panel and summed by the window.
+        QTRY_COMPARE_WITH_TIMEOUT(state->text(), QStringLiteral("ON"), 5000);
+        QTRY_COMPARE_WITH_TIMEOUT(summary->text(), QStringLiteral("Emission: ON"), 5000);
+        QCOMPARE(bus.find(cw_id)->value(16), 1);
+        emission_switch->click();
+        QTRY_COMPARE_WITH_TIMEOUT(summary->text(), QStringLiteral("Emission: OFF"), 5000);
+    }
+
+    void silent_device_is_lost_and_comes_back() {
+        QPointer<device_panel> before = panel_of(1);
+        QVERIFY(before);
+        bus.find(precision_id)->set_silent(true);
+        QTRY_VERIFY_WITH_TIMEOUT(before.isNull(), 10000);
+        QCOMPARE(window->devices().at(1)->type_id(), -1);
+        QVERIFY(panel_of(0));  // the others keep going
+        bus.find(precision_id)->set_silent(false);
+        QTRY_VERIFY_WITH_TIMEOUT(panel_of(1) != nullptr, 10000);
+        QCOMPARE(panel_of(1)->type_name(), QStringLiteral("VTR-CW-1800H precision"));
+    }
+
+    void closing_saves_the_configuration() {
+        window->close();
+        QSettings ini(QStringLiteral("configs/config.ini"), QSettings::IniFormat);
+        QCOMPARE(ini.value("prev_port").toString(), line->slave_path());
+        QCOMPARE(ini.value("device_count").toInt(), 3);
+        QCOMPARE(ini.value("device_2").toInt(), picosecond_id);
+    }
+};
+
+QTEST_MAIN(test_program_sim)
+#include "test_program_sim.moc"
