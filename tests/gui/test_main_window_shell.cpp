@@ -79,27 +79,29 @@ private slots:
         QTest::addColumn<QSize>("logo_size");
         QTest::addColumn<int>("header_max_height");
         QTest::addColumn<bool>("ttl_shown");
+        QTest::addColumn<QColor>("colour");
         QTest::newRow("Skarnova") << "Skarnova"
                                   << "QWidget {\n\tbackground-color: rgb(67, 55, 121);\n}"
                                   << ":/interface/SkarN_logo.png" << QSize(273, 60)
-                                  << QWIDGETSIZE_MAX << false;
+                                  << QWIDGETSIZE_MAX << false << QColor(67, 55, 121);
         QTest::newRow("Quibrel") << "Quibrel"
                                  << "QWidget {\n\tbackground-color: rgb(60, 145, 136);\n}"
                                  << ":/interface/quibrel_logo_PNG.png" << QSize(215, 60)
-                                 << QWIDGETSIZE_MAX << false;
+                                 << QWIDGETSIZE_MAX << false << QColor(60, 145, 136);
         QTest::newRow("Veltrano") << "Veltrano"
                                   << "QWidget {\n\tbackground-color: rgb(35, 39, 215);\n}"
                                   << ":/interface/veltrano.png" << QSize(273, 35)
-                                  << QWIDGETSIZE_MAX << false;
+                                  << QWIDGETSIZE_MAX << false << QColor(35, 39, 215);
         QTest::newRow("any other") << "Bench"
                                    << "QWidget {\n\tbackground-color: rgb(76, 109, 128);\n}"
                                    << ":/interface/power_version.png" << QSize(128, 95) << 107
-                                   << true;
+                                   << true << QColor(76, 109, 128);
         QTest::newRow("names compare exactly") << "veltrano"
                                                << "QWidget {\n\tbackground-color: rgb(76, 109, "
                                                   "128);\n}"
                                                << ":/interface/power_version.png"
-                                               << QSize(128, 95) << 107 << true;
+                                               << QSize(128, 95) << 107 << true
+                                               << QColor(76, 109, 128);
     }
     void brand_variants() {
         QFETCH(QString, brand);
@@ -108,6 +110,7 @@ private slots:
         QFETCH(QSize, logo_size);
         QFETCH(int, header_max_height);
         QFETCH(bool, ttl_shown);
+        QFETCH(QColor, colour);
         main_window window(brand, &registry);
         QCOMPARE(window.brand(), brand);
         auto *header = widget<QWidget>(window, "header_widget");
@@ -125,6 +128,11 @@ private slots:
         // Every variant starts with emission shown as off.
         QVERIFY(widget<QLabel>(window, "emit_on")->isHidden());
         QVERIFY(!widget<QLabel>(window, "emit_off")->isHidden());
+        // The header shows the colour on screen, not only in its style sheet.
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QImage painted = header->grab().toImage();
+        QCOMPARE(painted.pixelColor(painted.width() - 3, painted.height() / 2), colour);
         // The Help text names the brand.
         QVERIFY(widget<QPlainTextEdit>(window, "help_text")->toPlainText().startsWith(brand + "\n"));
     }
