@@ -14,7 +14,7 @@
         <translation>Device reset is nessesary after CAN ID change</translation>
     </message>
     <message>
-        <location line="+30"/>
+        <location line="+35"/>
         <source>Close</source>
         <translation>Close</translation>
     </message>
@@ -27,7 +27,7 @@
 <context>
     <name>cw_driver_base</name>
     <message>
-        <location filename="../../panels/cw_driver_base.cpp" line="+63"/>
+        <location filename="../../panels/cw_driver_base.cpp" line="+69"/>
         <source>Optical Power</source>
         <translation>Optical Power</translation>
     </message>
@@ -53,6 +53,257 @@
     </message>
 </context>
 <context>
+    <name>cw_panel</name>
+    <message>
+        <location filename="../../panels/cw_panel.ui" line="+20"/>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <location line="+86"/>
+        <source>LASER1</source>
+        <translation>LASER1</translation>
+    </message>
+    <message>
+        <location line="+37"/>
+        <location line="+77"/>
+        <source>Emission</source>
+        <translation>Emission</translation>
+    </message>
+    <message>
+        <location line="-64"/>
+        <source>type name</source>
+        <translation>type name</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Device parameters</source>
+        <translation>Device parameters</translation>
+    </message>
+    <message>
+        <location line="+75"/>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Const. Current</source>
+        <translation>Const. Current</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>External Analog</source>
+        <translation>External Analogue</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>External TTL</source>
+        <translation>External TTL</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Const. Power</source>
+        <translation>Const. Power</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Drive current</source>
+        <translation>Drive current</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source> mA</source>
+        <translation> mA</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Step size</source>
+        <translation>Step size</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>0.0</source>
+        <translation>0.0</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>1200.0</source>
+        <translation>1200.0</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Temperature</source>
+        <translation>Temperature</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source> °C</source>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>TEC</source>
+        <translation>TEC</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>10.0</source>
+        <translation>10.0</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>25.0</source>
+        <translation>25.0</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>State values:</source>
+        <translation>State values:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Current:</source>
+        <translation>Current:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>0.0 mA</source>
+        <translation>0.0 mA</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Temperature:</source>
+        <translation>Temperature:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>0.0 C</source>
+        <translation>0.0 C</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Power:</source>
+        <translation>Power:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>0.0 V</source>
+        <translation>0.0 V</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Mode:</source>
+        <translation>Mode:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>-</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Emission:</source>
+        <translation>Emission:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>OFF</source>
+        <translation>OFF</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Alarm!!!</source>
+        <translation>Alarm!!!</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <location filename="../../panels/cw_panel.cpp" line="+45"/>
+        <source>CAN ID</source>
+        <translation>CAN ID</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max current, mA</source>
+        <translation>Max current, mA</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Min current, mA</source>
+        <translation>Min current, mA</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max power, mW</source>
+        <translation>Max power, mW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Min power, mW</source>
+        <translation>Min power, mW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max temperature, °C</source>
+        <translation>Max temperature, °C</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Min temperature, °C</source>
+        <translation>Min temperature, °C</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Resistance at 25°C, Ohm</source>
+        <translation>Resistance at 25°C, Ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Thermistor beta</source>
+        <translation>Thermistor beta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max tec current, A</source>
+        <translation>Max tec current, A</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Monitor responsivity, uA/mW</source>
+        <translation>Monitor responsivity, uA/mW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>coef. P</source>
+        <translation>coef. P</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>coef. I</source>
+        <translation>coef. I</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>coef. D</source>
+        <translation>coef. D</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Output voltage is higher than 80% of input voltage, 
+SOLUTION: increase the input voltage</source>
+        <translation>Output voltage is higher than 80% of input voltage, 
+SOLUTION: increase the input voltage</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Output power is close to MAX</source>
+        <translation>Output power is close to MAX</translation>
+    </message>
+</context>
+<context>
     <name>main_window</name>
     <message>
         <location filename="../../app/main_window.ui" line="+14"/>
@@ -60,7 +311,7 @@
         <translation>lumivox v5</translation>
     </message>
     <message>
-        <location line="+99"/>
+        <location line="+94"/>
         <source>Main</source>
         <translation>Main</translation>
     </message>
@@ -201,7 +452,12 @@
 <context>
     <name>panel_base</name>
     <message>
-        <location filename="../../panels/framework/panel_base.cpp" line="+121"/>
+        <location filename="../../panels/framework/panel_base.cpp" line="+41"/>
+        <source>To be able to configure device CAN ID in the device parameters window please make sure, that your PC is connected directly to driver board via mini-USB cable, and &quot;mini USB mode&quot; is set in Settings tab.</source>
+        <translation>To be able to configure device CAN ID in the device parameters window please make sure, that your PC is connected directly to driver board via mini-USB cable, and &quot;mini USB mode&quot; is set in Settings tab.</translation>
+    </message>
+    <message>
+        <location line="+112"/>
         <source>ON</source>
         <translation>ON</translation>
     </message>
@@ -224,6 +480,235 @@
         <location line="+1"/>
         <source>Send command on </source>
         <translation>Send command on </translation>
+    </message>
+</context>
+<context>
+    <name>vtr_cw_1800_zif</name>
+    <message>
+        <location filename="../../panels/vtr_cw_1800_zif.ui" line="+20"/>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <location line="+86"/>
+        <source>LASER1</source>
+        <translation>LASER1</translation>
+    </message>
+    <message>
+        <location line="+37"/>
+        <location line="+77"/>
+        <source>Emission</source>
+        <translation>Emission</translation>
+    </message>
+    <message>
+        <location line="-64"/>
+        <source>type name</source>
+        <translation>type name</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Device parameters</source>
+        <translation>Device parameters</translation>
+    </message>
+    <message>
+        <location line="+75"/>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Const.Current</source>
+        <translation>Const.Current</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>External Analog</source>
+        <translation>External Analogue</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>External TTL</source>
+        <translation>External TTL</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Const.Power</source>
+        <translation>Const.Power</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Drive current</source>
+        <translation>Drive current</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source> mA</source>
+        <translation> mA</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Step size</source>
+        <translation>Step size</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>0.00</source>
+        <translation>0.00</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>1200.00</source>
+        <translation>1200.00</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Temperature</source>
+        <translation>Temperature</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source> °C</source>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>TEC</source>
+        <translation>TEC</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>10.00</source>
+        <translation>10.00</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>25.00</source>
+        <translation>25.00</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>State values:</source>
+        <translation>State values:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Current:</source>
+        <translation>Current:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>0.0 mA</source>
+        <translation>0.0 mA</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Temperature:</source>
+        <translation>Temperature:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>0.0 C</source>
+        <translation>0.0 C</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Power:</source>
+        <translation>Power:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>0.0 V</source>
+        <translation>0.0 V</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Mode:</source>
+        <translation>Mode:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>-</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Emission:</source>
+        <translation>Emission:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>OFF</source>
+        <translation>OFF</translation>
+    </message>
+    <message>
+        <location filename="../../panels/vtr_cw_1800_zif.cpp" line="+42"/>
+        <source>CAN ID</source>
+        <translation>CAN ID</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max current, mA</source>
+        <translation>Max current, mA</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Min current, mA</source>
+        <translation>Min current, mA</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max power, mW</source>
+        <translation>Max power, mW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Min power, mW</source>
+        <translation>Min power, mW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max temperature, °C</source>
+        <translation>Max temperature, °C</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Min temperature, °C</source>
+        <translation>Min temperature, °C</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Resistance at 25°C, Ohm</source>
+        <translation>Resistance at 25°C, Ohm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Thermistor beta</source>
+        <translation>Thermistor beta</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max tec current, A</source>
+        <translation>Max tec current, A</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Monitor responsivity, uA/mW</source>
+        <translation>Monitor responsivity, uA/mW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>coef. P</source>
+        <translation>coef. P</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>coef. I</source>
+        <translation>coef. I</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>coef. D</source>
+        <translation>coef. D</translation>
     </message>
 </context>
 </TS>
