@@ -1,0 +1,93 @@
+// The `lumivox` program itself, started as an operator starts it, ends on SIGTERM and SIGINT as it
+// does when its window is closed: configuration saved, every thread stopped, exit code 0. Checked
+// with the serial link open (on the simulator) and with automatic connection retrying a missing
+// adapter.
+#include "sim_bus.h"
+#include "sim_pty.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+#include <csignal>
+
+class test_program_exit : public QObject {
+    Q_OBJECT
+
+private slots:
+    void ends_cleanly_on_signal_data() {
+        QTest::addColumn<int>("signal_number");
+        QTest::addColumn<bool>("adapter_present");
+        QTest::newRow("SIGTERM, connected") << int(SIGTERM) << true;
+        QTest::newRow("SIGINT, connected") << int(SIGINT) << true;
+        QTest::newRow("SIGTERM, adapter missing") << int(SIGTERM) << false;
+    }
+
+    void ends_cleanly_on_signal() {
+        QFETCH(int, signal_number);
+        QFETCH(bool, adapter_present);
+
+        QTemporaryDir dir;
+        QVERIFY(dir.isValid());
+        sim_bus bus;
+        QVERIFY(bus.add_device(7, 14));
+        sim_pty line(bus);
+        QVERIFY(line.open());
+        QTimer clock;
+        connect(&clock, &QTimer::timeout, this, [&bus] { bus.advance(10); });
+        clock.start(10);
+
+        const QString port = adapter_present ? line.slave_path() : dir.filePath("no-adapter");
+        QDir(dir.path()).mkpath("configs");
+        {
+            QSettings ini(dir.filePath("configs/config.ini"), QSettings::IniFormat);
+            ini.setValue("prev_port", port);
+            ini.setValue("mini_usb_mode", false);
+            ini.setValue("autoconnection_mode", true);
+            ini.setValue("device_count", 2);
+            ini.setValue("device_0", 7);
+            ini.setValue("name_device_0", "Bench A");
+            ini.setValue("device_1", 9);
+            ini.setValue("name_device_1", "Bench B");
+        }
+
+        QProcess program;
+        program.setWorkingDirectory(dir.path());
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("QT_QPA_PLATFORM", "offscreen");
+        program.setProcessEnvironment(env);
+        program.start(QStringLiteral(LUMIVOX_EXE), QStringList());
+        QVERIFY(program.waitForStarted());
+
+        // The window is up (and the signal watch installed) once the configuration has been read;
+        // with the adapter present, wait for the device's type to have been asked and answered.
+        QByteArray errors;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (errors += program.readAllStandardError()).contains("saved writed"), 10000);
+        if (adapter_present) {
+            QTRY_VERIFY_WITH_TIMEOUT(bus.frames() > 0, 10000);
+        }
+        // Remove the file so that only the close can have written it again.
+        QVERIFY(QFile::remove(dir.filePath("configs/config.ini")));
+
+        QCOMPARE(::kill(static_cast<pid_t>(program.processId()), signal_number), 0);
+        // The loop keeps the simulator answering while the program closes.
+        QTRY_VERIFY_WITH_TIMEOUT(program.state() == QProcess::NotRunning, 10000);
+        errors += program.readAllStandardError();
+
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
+        QVERIFY2(!errors.contains("QThread: Destroyed"), errors.constData());
+        QSettings saved(dir.filePath("configs/config.ini"), QSettings::IniFormat);
+        QCOMPARE(saved.value("prev_port").toString(), port);
+        QCOMPARE(saved.value("device_count").toInt(), 2);
+        QCOMPARE(saved.value("device_1").toInt(), 9);
+        QCOMPARE(saved.value("name_device_0").toString(), QStringLiteral("Bench A"));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_program_exit)
+#include "test_program_exit.moc"
