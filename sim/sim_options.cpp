@@ -77,13 +77,16 @@ bool parse_sim_options(const QStringList &arguments, sim_options *options, QStri
     const QCommandLineOption every(QStringLiteral("every-type"), QString());
     const QCommandLineOption link(QStringLiteral("link"), QString(), QStringLiteral("PATH"));
     const QCommandLineOption trace(QStringLiteral("trace"), QString());
-    const QCommandLineOption silent(QStringLiteral("silent"), QString(), QStringLiteral("SPEC"));
-    const QCommandLineOption garbage(QStringLiteral("garbage"), QString(), QStringLiteral("SPEC"));
+    const QCommandLineOption silent(QStringLiteral("silent"), QString(),
+                                    QStringLiteral("ID[:AFTER[:FOR]]"));
+    const QCommandLineOption garbage(QStringLiteral("garbage"), QString(),
+                                     QStringLiteral("ID[:AFTER[:FOR]]"));
     const QCommandLineOption change(QStringLiteral("change-type"), QString(),
-                                    QStringLiteral("SPEC"));
-    const QCommandLineOption alarm(QStringLiteral("alarm"), QString(), QStringLiteral("SPEC"));
+                                    QStringLiteral("ID:TYPE[:AFTER]"));
+    const QCommandLineOption alarm(QStringLiteral("alarm"), QString(),
+                                   QStringLiteral("ID:BITS[:AFTER]"));
     const QCommandLineOption hangup(QStringLiteral("hangup-after"), QString(),
-                                    QStringLiteral("SPEC"));
+                                    QStringLiteral("MS[:FOR]"));
     parser.addOptions({help, device, every, link, trace, silent, garbage, change, alarm, hangup});
     if (!parser.parse(arguments)) {
         *error = parser.errorText();

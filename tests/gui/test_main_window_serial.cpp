@@ -47,6 +47,14 @@ class test_main_window_serial : public QObject {
         return window;
     }
 
+    // A window whose device table is empty and applied, so that only the TTL tester's texts travel.
+    static std::unique_ptr<main_window> tester_window(const pty_pair &pty) {
+        auto window = window_on(pty, QStringLiteral("Bench"), "device_count=0\n");
+        device_table(*window)->setRowCount(0);
+        widget<QPushButton>(*window, "apply_pb")->click();
+        return window;
+    }
+
     static bool connect_window(main_window &window, pty_pair &pty) {
         widget<QPushButton>(window, "connect_button")->click();
         if (!QTest::qWaitFor([&window] {
@@ -213,10 +221,7 @@ private slots:
         pty_pair pty;
         QVERIFY(pty.ok());
         scratch_dir dir;
-        // No devices, so that only the tester's texts travel.
-        auto window = window_on(pty, QStringLiteral("Bench"), "device_count=0\n");
-        device_table(*window)->setRowCount(0);
-        widget<QPushButton>(*window, "apply_pb")->click();
+        auto window = tester_window(pty);
         QVERIFY(window->devices().isEmpty());
         QVERIFY(connect_window(*window, pty));
 
@@ -230,9 +235,7 @@ private slots:
         pty_pair pty;
         QVERIFY(pty.ok());
         scratch_dir dir;
-        auto window = window_on(pty, QStringLiteral("Bench"), "device_count=0\n");
-        device_table(*window)->setRowCount(0);
-        widget<QPushButton>(*window, "apply_pb")->click();
+        auto window = tester_window(pty);
         QVERIFY(connect_window(*window, pty));
 
         QPushButton *start_stop = widget<QPushButton>(*window, "pushButton_3");

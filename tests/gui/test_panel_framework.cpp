@@ -68,8 +68,7 @@ class test_panel_framework : public QObject {
 private slots:
     void init() { boxes = std::make_unique<box_answerer>(); }
     void cleanup() {
-        QVERIFY2(boxes->unexpected.isEmpty(), qPrintable(boxes->unexpected.join(" | ")));
-        QCOMPARE(boxes->pending(), 0);
+        boxes->verify_all_answered();
         boxes.reset();
     }
 

@@ -73,6 +73,12 @@ public:
     QList<message_request> shown;  // every box asked, in order
     QStringList unexpected;        // title and text of each box nobody expected
 
+    // For a test's cleanup(): fails on a box nobody expected and on an expected box that never came.
+    void verify_all_answered() const {
+        QVERIFY2(unexpected.isEmpty(), qPrintable(unexpected.join(QStringLiteral(" | "))));
+        QCOMPARE(pending(), 0);
+    }
+
 private:
     struct expectation {
         QString title;
