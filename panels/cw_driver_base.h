@@ -67,6 +67,8 @@ public:
     };
 
     // How finely each quantity travels and is shown.
+    // The defaults are the CW driver's: set-points in 0.1 mA, 0.01 mW and 0.1 °C, every report in
+    // tenths, texts with 1 decimal (power 2).
     struct resolution {
         double current_scale = 10;  // set-point write factors
         double power_scale = 100;

@@ -2,28 +2,8 @@
 
 #include "ui_cw_panel.h"
 
-namespace {
-
-// Set-points in 0.1 mA, 0.01 mW and 0.1 °C; every report in tenths; texts with 1 decimal (power 2).
-cw_driver_base::resolution cw_resolution() {
-    cw_driver_base::resolution r;
-    r.current_scale = 10;
-    r.power_scale = 100;
-    r.temperature_scale = 10;
-    r.current_divisor = 10;
-    r.power_divisor = 10;
-    r.temperature_divisor = 10;
-    r.current_decimals = 1;
-    r.power_decimals = 2;
-    r.temperature_decimals = 1;
-    r.value_decimals = 1;
-    return r;
-}
-
-}  // namespace
-
 cw_panel::cw_panel(QWidget *parent)
-    : cw_driver_base(parent, cw_resolution()), ui(new Ui::cw_panel) {
+    : cw_driver_base(parent, resolution{}), ui(new Ui::cw_panel) {
     ui->setupUi(this);
 
     poll_plan plan;

@@ -10,13 +10,10 @@ namespace {
 cw_driver_base::resolution precision_resolution() {
     cw_driver_base::resolution r;
     r.current_scale = 100;
-    r.power_scale = 100;
     r.temperature_scale = 10000;
     r.current_divisor = 10000;
-    r.power_divisor = 10;
     r.temperature_divisor = 10000;
     r.current_decimals = 2;
-    r.power_decimals = 2;
     r.temperature_decimals = 2;
     r.value_decimals = 2;
     return r;
