@@ -181,23 +181,6 @@ private slots:
         }
     }
 
-    void any_accepted_answer_resets_the_silence_count() {
-        device dev(&host, &registry);
-        dev.set_can_id(5);
-        deliver(dev, answer(5, 0xD0, 14));
-        for (int i = 0; i < 40; ++i) {
-            dev.tick();
-        }
-        deliver(dev, answer(6, 0x91, 1));  // not ours: does not count
-        QCOMPARE(dev.no_answer_counter(), 40);
-        deliver(dev, answer(5, 0x91, 1));
-        QCOMPARE(dev.no_answer_counter(), 0);
-        for (int i = 0; i < 40; ++i) {
-            dev.tick();
-        }
-        QCOMPARE(dev.type_id(), 14);
-    }
-
     void new_type_at_the_same_address_rebuilds() {
         device dev(&host, &registry);
         dev.set_can_id(3);
