@@ -1,18 +1,13 @@
 #pragma once
 
 // Helpers of the main window tests: a scratch working directory holding the configuration file,
-// widget look-up by object name and the device list / device table as CAN ids.
+// widget look-up by object name and the CAN ids of the devices and of the device table.
 
 #include "main_window.h"
+#include "serial_connector.h"
 
-#include <QDir>
-#include <QFile>
-#include <QSpinBox>
-#include <QTableWidget>
-#include <QTemporaryDir>
-
-#include <memory>
-#include <utility>
+#include <QtTest>
+#include <QtWidgets>
 
 // Makes a fresh temporary directory the working directory for the life of the object and writes
 // "configs/config.ini" there with exactly these lines (no file when `ini` is null).
@@ -38,12 +33,8 @@ W *widget(const main_window &window, const char *name) {
     return window.findChild<W *>(QString::fromLatin1(name));
 }
 
-inline QTableWidget *device_table(const main_window &w) {
-    return widget<QTableWidget>(w, "device_table");
-}
-
 inline QSpinBox *can_id_spin(const main_window &w, int row) {
-    return qobject_cast<QSpinBox *>(device_table(w)->cellWidget(row, 0));
+    return qobject_cast<QSpinBox *>(widget<QTableWidget>(w, "device_table")->cellWidget(row, 0));
 }
 
 inline QList<int> device_can_ids(const main_window &w) {
