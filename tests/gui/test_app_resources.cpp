@@ -13,9 +13,8 @@ private slots:
         QTest::addColumn<QSize>("size");
         QTest::addColumn<int>("count");
         QTest::addColumn<double>("min_cover");  // share of pixels that are not transparent
-        QTest::newRow("slide switch, off") << "switch_btn_*_80x25.*" << QSize(80, 25) << 2 << 0.8;
-        QTest::newRow("slide switch, wide")
-            << "switch_btn_*_108x25.*" << QSize(108, 25) << 4 << 0.8;
+        QTest::newRow("slide switch") << "switch_btn_*_80x25.*" << QSize(80, 25) << 2 << 0.8;
+        QTest::newRow("wide switch") << "switch_btn_*_108x25.*" << QSize(108, 25) << 4 << 0.8;
         QTest::newRow("round switch") << "round_button_switch*" << QSize(48, 48) << 6 << 0.6;
         QTest::newRow("configuration icon") << "conf_icon*" << QSize(32, 32) << 3 << 0.4;
         QTest::newRow("emission lamp") << "emission_*" << QSize(32, 32) << 2 << 0.4;
@@ -28,17 +27,16 @@ private slots:
         QMap<QString, QImage> family;  // by name without the suffix: the .ico repeats the .png
         int files = 0;
         for (QDirIterator it(":/interface", {pattern}); it.hasNext(); ++files) {
-            const QString name = it.next().section('/', -1);
+            const QString state = it.next().section('/', -1).section('.', 0, 0);
             const QImage image = QImage(it.filePath()).convertToFormat(QImage::Format_ARGB32);
             QCOMPARE(image.size(), size);
             int opaque = 0;
-            for (int i = 0; i < image.width() * image.height(); ++i) {
-                opaque += qAlpha(image.pixel(i % image.width(), i / image.width())) > 0;
+            for (int i = 0; i < size.width() * size.height(); ++i) {
+                opaque += qAlpha(image.pixel(i % size.width(), i / size.width())) > 0;
             }
-            QVERIFY2(opaque >= min_cover * image.width() * image.height(), qPrintable(name));
-            const QString state = name.section('.', 0, 0);
+            QVERIFY2(opaque >= min_cover * size.width() * size.height(), qPrintable(state));
             for (auto other = family.cbegin(); other != family.cend(); ++other) {
-                QVERIFY2(other.key() == state || *other != image, qPrintable(name));
+                QVERIFY2(other.key() == state || *other != image, qPrintable(state));
             }
             family.insert(state, image);
         }

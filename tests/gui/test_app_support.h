@@ -48,9 +48,8 @@ inline QList<int> device_can_ids(const main_window &w) {
 // A window that has read the configuration file of the working directory; the port list offers
 // `ports`.
 inline std::unique_ptr<main_window> loaded_window(const QString &brand = QStringLiteral("Veltrano"),
-                                                  const panel_registry *registry = nullptr,
                                                   QList<main_window::port_entry> ports = {}) {
-    auto window = std::make_unique<main_window>(brand, registry);
+    auto window = std::make_unique<main_window>(brand);
     window->set_port_lister([ports = std::move(ports)] { return ports; });
     window->initialise_from_config();
     return window;

@@ -48,9 +48,7 @@ private slots:
         QCOMPARE(window->serial_link()->port_name(), port);
         QCOMPARE(QFile::exists("configs/config.ini"), !ini.isNull());  // loading writes nothing
         window->close();  // creates the folder and the file when there were none
-        QCOMPARE(
-            QSettings("configs/config.ini", QSettings::IniFormat).value("device_count").toInt(),
-            device_ids.size());
+        QVERIFY(QFile::exists("configs/config.ini"));
     }
 
     void save_then_load_round_trip() {
@@ -60,19 +58,17 @@ private slots:
             "device_0=1\ndevice_1=2\ndevice_2=3\ndevice_3=4\n");
         {
             auto window = loaded_window();
-            widget<QTableWidget>(*window, "device_table")
-                ->item(0, 1)
-                ->setText(QStringLiteral("Seed laser"));
+            QTableWidget *table = widget<QTableWidget>(*window, "device_table");
+            table->item(0, 1)->setText(QStringLiteral("Seed laser"));
             can_id_spin(*window, 1)->setValue(42);
-            widget<QTableWidget>(*window, "device_table")->setRowCount(2);
+            table->setRowCount(2);
             widget<QPushButton>(*window, "apply_pb")->click();
             window->serial_link()->set_port_name(QStringLiteral("ttyUSB9"));
             widget<QPushButton>(*window, "add_pb")->click();  // not applied, so not saved
             window->close();
         }
-        QSettings saved(QStringLiteral("configs/config.ini"), QSettings::IniFormat);
-        QVERIFY(!saved.contains("junk"));
-        QVERIFY(!saved.contains("device_2"));
+        // Rewritten whole: the four settings and two keys per device, no stale ones.
+        QCOMPARE(QSettings("configs/config.ini", QSettings::IniFormat).allKeys().size(), 8);
         auto again = loaded_window();
         QCOMPARE(device_can_ids(*again), (QList<int>{1, 42}));
         QCOMPARE(again->devices().first()->name(), QStringLiteral("Seed laser"));

@@ -3,16 +3,12 @@
 #include "pty_pair.h"
 #include "test_app_support.h"
 
-namespace {
-
 // The adapter start-up: "O" and "S6" three times, each closed by the writer's CR LF.
 const QByteArray adapter_start = QByteArray("O\r\r\nS6\r\r\n").repeated(3);
 
-QByteArray config_naming(const QString &port, const QByteArray &rest) {
+static QByteArray config_naming(const QString &port, const QByteArray &rest) {
     return "[General]\nprev_port=" + port.toUtf8() + "\n" + rest;
 }
-
-}  // namespace
 
 class test_main_window_serial : public QObject {
     Q_OBJECT
@@ -23,33 +19,28 @@ private slots:
         QTest::addColumn<int>("selected");
         QTest::newRow("second port saved") << "/dev/pts/b2" << 1;
         QTest::newRow("case differs: nothing selected") << "/DEV/PTS/B2" << -1;
-        QTest::newRow("nothing saved") << "" << -1;
     }
     void port_list_selects_the_saved_port() {
         QFETCH(QString, saved);
         QFETCH(int, selected);
         scratch_dir dir(config_naming(saved, ""));
-        QList<main_window::port_entry> ports{{"/dev/pts/a1", "Adapter A"}, {"/dev/pts/b2", "B"}};
-        main_window window(QStringLiteral("Veltrano"));
-        window.set_port_lister([&ports] { return ports; });
-        window.initialise_from_config();
-        auto *combo = widget<QComboBox>(window, "serial_combo_box");
+        auto window =
+            loaded_window("Veltrano", {{"/dev/pts/a1", "Adapter A"}, {"/dev/pts/b2", "B"}});
+        auto *combo = widget<QComboBox>(*window, "serial_combo_box");
         QCOMPARE(combo->itemText(0), QStringLiteral("\"Adapter A\" /dev/pts/a1"));
         QCOMPARE(combo->currentIndex(), selected);
         // Choosing a port only names it; nothing opens.
-        QSignalSpy connects(&window, &main_window::sig_init_connection);
+        QSignalSpy connects(window.get(), &main_window::sig_init_connection);
         emit combo->activated(0);
-        QCOMPARE(window.serial_link()->port_name(), ports[0].name);
+        QCOMPARE(window->serial_link()->port_name(), QStringLiteral("/dev/pts/a1"));
         QCOMPARE(connects.count(), 0);
     }
 
     void connect_and_disconnect() {
         pty_pair pty;
         QVERIFY(pty.ok());
-        scratch_dir dir(config_naming(pty.slave_path(),
-                                      "mini_usb_mode=false\ndevice_count=1\n"
-                                      "device_0=3\n"));
-        auto window = loaded_window("Veltrano", nullptr, {{pty.slave_path(), "Test adapter"}});
+        scratch_dir dir(config_naming(pty.slave_path(), ""));
+        auto window = loaded_window("Veltrano", {{pty.slave_path(), "Test adapter"}});
         auto *button = widget<QPushButton>(*window, "connect_button");
         const auto check = [&](bool on) {
             QTRY_COMPARE(button->text(), on ? QString("Disconnect") : QString("Connect"));
@@ -119,7 +110,7 @@ private slots:
         QVERIFY(pty.ok());
         // No devices, so that only the tester's texts travel.
         scratch_dir dir(config_naming(pty.slave_path(), "device_count=0\n"));
-        auto window = loaded_window("Bench", nullptr, {{pty.slave_path(), "Test adapter"}});
+        auto window = loaded_window("Bench", {{pty.slave_path(), "Test adapter"}});
         widget<QTableWidget>(*window, "device_table")->setRowCount(0);
         widget<QPushButton>(*window, "apply_pb")->click();
         widget<QPushButton>(*window, "connect_button")->click();
