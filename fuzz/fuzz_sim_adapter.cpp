@@ -1,12 +1,11 @@
 // The simulator's adapter fed arbitrary bytes in arbitrary chunks, with devices of modelled types
-// on the bus behind it and time passing between chunks: adapter commands, frames
-// and the device models' handling of any code and value. Besides not crashing: the replies are
-// made of "\r", the bell and answer frames only.
+// on the bus behind it and time passing between chunks: adapter commands, frames and the device
+// models' handling of any code and value. Besides not crashing: the replies are made of "\r", the
+// bell and answer frames only.
 #include "device_profiles.h"
 #include "sim_bus.h"
 #include "sim_frame.h"
 #include "slcan_adapter.h"
-
 
 #include <fuzzer/FuzzedDataProvider.h>
 

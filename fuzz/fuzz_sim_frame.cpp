@@ -17,9 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         std::abort();
     }
     if (request->reserved == 0 && line == line.toLower()) {
-        QByteArray again = sim_frame::compose_answer(request->can_id, request->sender,
-                                                     request->code,
-                                                     static_cast<quint32>(request->value));
+        QByteArray again = sim_frame::compose_answer(
+            request->can_id, request->sender, request->code, static_cast<quint32>(request->value));
         again.chop(1);  // the adapter's "\r"
         if (again != line) {
             std::abort();
