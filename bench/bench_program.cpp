@@ -4,6 +4,8 @@
 // the CPU share of one core, the CPU time per request, each thread's CPU time and context switches
 // per request, and the resident memory. Not a test: nothing is asserted.
 //
+//     bench_program [lumivox program] [measured ms per run, 10000] [device counts, "1,8,19"]
+//
 // Only the CW types (14, 15, 34, 38) have panels yet, so the devices are those four types repeated
 // over CAN ids 1 to n; the mix is a stand-in until every type has its panel.
 #include "sim_bus.h"
@@ -281,15 +283,22 @@ int main(int argc, char *argv[]) {
     const QString given = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
     const QString program = given.isEmpty() ? QStringLiteral(LUMIVOX_EXE) : given;
     const int measure_ms = argc > 2 ? QString::fromLocal8Bit(argv[2]).toInt() : 10000;
+    // Device counts to run, "1,8,19" by default.
+    QList<int> counts;
+    for (const QString &n : QString::fromLocal8Bit(argc > 3 ? argv[3] : "1,8,19").split(',')) {
+        if (n.toInt() > 0) {
+            counts.append(n.toInt());
+        }
+    }
 
     std::printf(
         "program: lumivox polling CW devices (types 14, 15, 34, 38 in turn over CAN ids "
         "1..n), every request answered; CPU and switches from /proc\n");
     QList<case_result> results;
-    for (int count : {1, 8, 19}) {
+    for (int count : qAsConst(counts)) {
         results.append(measure(program, count, measure_ms));
     }
-    if (results.first().ok && results.last().ok) {
+    if (results.size() > 1 && results.first().ok && results.last().ok) {
         const double added =
             (results.last().cpu_per_request_us - results.first().cpu_per_request_us) /
             (results.last().devices - results.first().devices);
