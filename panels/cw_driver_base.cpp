@@ -1,6 +1,7 @@
 #include "cw_driver_base.h"
 
 #include "scaling.h"
+#include "widget_update.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,10 +22,18 @@ void cw_driver_base::setup_driver(const widgets &form, const poll_plan &plan,
     bind_emission(emission_code + 128, w_.power_state_label,
                   {w_.on_off_button, w_.start_stop_button_alt}, {emission_code});
     bind_tec(tec_code, tec_code + 128, w_.chb_tec);
-    bind_reading(current_code + 128, &current_, res_.current_divisor);
-    bind_reading(temperature_code + 128, &temperature_, res_.temperature_divisor);
-    bind_reading(power_report, &power_, res_.power_divisor);
-    bind_state(mode_code + 128, &mode_);
+    const int decimals = res_.value_decimals;
+    bind_reading({current_code + 128, tr("Current"), tr("mA"), res_.current_divisor, decimals},
+                 &current_, w_.current_ld_label);
+    bind_reading(
+        {temperature_code + 128, tr("Temperature"), tr("°C"), res_.temperature_divisor, decimals},
+        &temperature_, w_.temp_label);
+    bind_reading({power_report, tr("Power"), tr("mW"), res_.power_divisor, decimals}, &power_,
+                 w_.power_label);
+    bind_state(mode_code + 128, &mode_, tr("Mode"), [this](int mode) { return mode_text(mode); });
+    describe_command(current_code, tr("Current"), tr("mA"), res_.current_scale);
+    describe_command(power_code, tr("Power"), tr("mW"), res_.power_scale);
+    describe_command(mode_code, tr("Mode"), {}, 1);
 
     bind_setpoint(w_.spin, [this] { confirm_main_setpoint(); });
     bind_setpoint(w_.spin_temp, temperature_code, res_.temperature_scale, &temperature_text_,
@@ -66,18 +75,16 @@ void cw_driver_base::on_chb_tec_clicked(bool checked) {
 
 void cw_driver_base::refresh_display() {
     if (power_mode()) {
-        w_.spin_label->setText(tr("Optical Power"));
+        show_text(w_.spin_label, tr("Optical Power"));
         show_limits(w_.spin, w_.curr_max_label, w_.curr_min_label, parameter_value(power_max),
                     parameter_value(power_min), res_.power_decimals);
     } else {
-        w_.spin_label->setText(tr("Drive Current"));
+        show_text(w_.spin_label, tr("Drive Current"));
         show_limits(w_.spin, w_.curr_max_label, w_.curr_min_label, parameter_value(current_max),
                     parameter_value(current_min), res_.current_decimals);
     }
-    const QString suffix = power_mode() ? QStringLiteral(" mW") : QStringLiteral(" mA");
-    if (w_.spin->suffix() != suffix) {
-        w_.spin->setSuffix(suffix);
-    }
+    widget_update::set_suffix(w_.spin,
+                              power_mode() ? QStringLiteral(" mW") : QStringLiteral(" mA"));
     show_limits(w_.spin_temp, w_.temp_max_label, w_.temp_min_label,
                 parameter_value(temperature_max), parameter_value(temperature_min),
                 res_.temperature_decimals);
@@ -88,31 +95,25 @@ void cw_driver_base::refresh_display() {
     show_indicator(w_.tem_indicator, temperature_, parameter_value(temperature_min),
                    parameter_value(temperature_max));
 
-    const int decimals = res_.value_decimals;
-    if (current_ != -1.0) {
-        w_.current_ld_label->setText(QString::number(current_, 'f', decimals) + tr(" mA"));
-    }
-    if (temperature_ != -1.0) {
-        w_.temp_label->setText(QString::number(temperature_, 'f', decimals) + tr(" °C"));
-    }
-    if (power_ != -1.0) {
-        w_.power_label->setText(QString::number(power_, 'f', decimals) + tr(" mW"));
-    }
     if (mode_ >= 0 && mode_ < w_.mode->count()) {
-        w_.mode_label->setText(w_.mode->itemText(mode_));
+        show_text(w_.mode_label, mode_text(mode_));
     }
+}
+
+QString cw_driver_base::mode_text(int mode) const {
+    return mode >= 0 && mode < w_.mode->count() ? w_.mode->itemText(mode) : QString::number(mode);
 }
 
 bool cw_driver_base::load_setpoints() {
     bool complete = true;
     const double main = power_mode() ? power_ : current_;
     if (main != -1.0) {
-        w_.spin->setValue(main);
+        widget_update::set_value(w_.spin, main);
     } else {
         complete = false;
     }
     if (temperature_ != -1.0) {
-        w_.spin_temp->setValue(temperature_);
+        widget_update::set_value(w_.spin_temp, temperature_);
     } else {
         complete = false;
     }

@@ -133,6 +133,8 @@ protected:
 
 private:
     bool power_mode() const { return mode_ == constant_power_mode; }
+    // The mode combo's item text for `mode`.
+    QString mode_text(int mode) const;
     void confirm_main_setpoint();
 
     widgets w_;

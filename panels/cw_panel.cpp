@@ -2,8 +2,7 @@
 
 #include "ui_cw_panel.h"
 
-cw_panel::cw_panel(QWidget *parent)
-    : cw_driver_base(parent, resolution{}), ui(new Ui::cw_panel) {
+cw_panel::cw_panel(QWidget *parent) : cw_driver_base(parent, resolution{}), ui(new Ui::cw_panel) {
     ui->setupUi(this);
 
     poll_plan plan;

@@ -4,6 +4,7 @@
 #include "message_route.h"
 #include "panel_style.h"
 #include "scaling.h"
+#include "widget_update.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -14,10 +15,13 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMetaMethod>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QToolButton>
 #include <QtDebug>
+
+#include <algorithm>
 
 namespace {
 
@@ -104,6 +108,7 @@ void panel_base::sl_refresh_state() {
     if (!queue_.isEmpty()) {
         const panel_command head = queue_.takeFirst();
         emit sig_w_send_command(head.code, head.value);
+        observe_sent(head);
         return;
     }
     if (const std::optional<int> code = poll_step(plan_, parameters_, poll_index_)) {
@@ -129,13 +134,34 @@ void panel_base::queue_tec(bool on) {
 
 // --- Receiving --------------------------------------------------------------------------------
 
-void panel_base::bind_reading(int code, double *field, double divisor) {
-    bind_reply(code,
-               [field, divisor](long value) { *field = static_cast<double>(value) / divisor; });
+void panel_base::bind_reading(const reading_spec &spec, double *field, QLabel *label) {
+    readings_.append(spec);
+    if (label) {
+        reserve_text(label, spec.widest_text());
+    }
+    bind_reply(spec.code, [this, spec, field, label](long value) {
+        *field = static_cast<double>(value) / spec.divisor;
+        if (label) {
+            show_text(label, spec.text(*field));
+        }
+        observe(panel_observation::reading, spec.quantity, *field, spec.unit);
+    });
 }
 
-void panel_base::bind_state(int code, int *field) {
-    bind_reply(code, [field](long value) { *field = static_cast<int>(value); });
+void panel_base::bind_state(int code, int *field, const QString &quantity,
+                            std::function<QString(int)> text) {
+    bind_reply(code, [this, field, quantity, text](long value) {
+        *field = static_cast<int>(value);
+        if (!quantity.isEmpty()) {
+            observe(panel_observation::state, quantity, *field, {},
+                    text ? text(*field) : QString());
+        }
+    });
+}
+
+void panel_base::describe_command(int code, const QString &quantity, const QString &unit,
+                                  double scale) {
+    command_names_.insert(code, command_name{quantity, unit, scale});
 }
 
 void panel_base::bind_reply(int code, std::function<void(long)> handler) {
@@ -157,7 +183,12 @@ void panel_base::bind_emission(int report_code, QLabel *state_label,
             button->setChecked(emission_on_);
         }
         emit send_emission(emission_on_ ? 1 : 0);
+        observe(panel_observation::state, tr("Emission"), emission_on_ ? 1 : 0, {},
+                emission_on_ ? tr("ON") : tr("OFF"));
     });
+    for (int code : emission_write_codes_) {
+        describe_command(code, tr("Emission"), {}, 1);
+    }
 }
 
 void panel_base::bind_tec(int write_code, int report_code, QCheckBox *box) {
@@ -166,7 +197,10 @@ void panel_base::bind_tec(int write_code, int report_code, QCheckBox *box) {
     bind_reply(report_code, [this](long value) {
         tec_state_ = static_cast<int>(value);
         tec_box_->setChecked(tec_state_ != 0);
+        observe(panel_observation::state, tr("TEC"), tec_state_ != 0 ? 1 : 0, {},
+                tec_state_ != 0 ? tr("ON") : tr("OFF"));
     });
+    describe_command(write_code, tr("TEC"), {}, 1);
 }
 
 void panel_base::bind_alarm(int report_code, const QStringList &texts, QList<QWidget *> widgets,
@@ -174,7 +208,8 @@ void panel_base::bind_alarm(int report_code, const QStringList &texts, QList<QWi
     alarm_texts_ = texts;
     alarm_widgets_ = std::move(widgets);
     alarm_word_ = initial_word;
-    bind_state(report_code, &alarm_word_);
+    bind_state(report_code, &alarm_word_, tr("Alarm"),
+               [this](int) { return alarm_text().join(QStringLiteral("; ")); });
 }
 
 void panel_base::sl_parsed_data_received(int code, long value) {
@@ -190,7 +225,49 @@ void panel_base::take_parameter_report(int code, long value) {
     for (parameter_record &record : parameters_) {
         if (record.code + 128 == code) {
             record.value = static_cast<double>(value) / scaling::pow10(record.decimals);
+            observe(panel_observation::parameter, record.label, record.value, {});
         }
+    }
+}
+
+// --- Observers --------------------------------------------------------------------------------
+
+bool panel_base::observed() const {
+    static const QMetaMethod signal = QMetaMethod::fromSignal(&panel_base::sig_observed);
+    return isSignalConnected(signal);
+}
+
+void panel_base::observe(panel_observation::kind_t kind, const QString &quantity, double value,
+                         const QString &unit, const QString &text) {
+    if (!observed()) {
+        return;
+    }
+    panel_observation observation{kind, quantity, value, unit, text, true};
+    if (kind != panel_observation::setpoint) {
+        const auto last = last_observed_.constFind(quantity);
+        observation.changed = last == last_observed_.constEnd() || *last != value;
+        last_observed_.insert(quantity, value);
+    }
+    emit sig_observed(observation);
+}
+
+void panel_base::observe_sent(const panel_command &command) {
+    if (command.code >= 128 || !observed()) {
+        return;  // a read request
+    }
+    for (const parameter_record &record : qAsConst(parameters_)) {
+        if (record.code == command.code) {
+            observe(panel_observation::setpoint, record.label,
+                    command.value / scaling::pow10(record.decimals), {});
+            return;
+        }
+    }
+    const auto name = command_names_.constFind(command.code);
+    if (name != command_names_.constEnd()) {
+        observe(panel_observation::setpoint, name->quantity, command.value / name->scale,
+                name->unit);
+    } else {
+        observe(panel_observation::setpoint, tr("Command %1").arg(command.code), command.value, {});
     }
 }
 
@@ -265,15 +342,29 @@ void panel_base::refresh_header() {
     tab_button_->setText(text);
 }
 
+void panel_base::show_text(QLabel *label, const QString &text) {
+    widget_update::set_text(label, text);
+}
+
+void panel_base::reserve_text(QLabel *label, const QString &widest) {
+    widget_update::reserve_width(label, widest);
+}
+
 void panel_base::show_limits(QDoubleSpinBox *spin, QLabel *max_label, QLabel *min_label,
                              double high, double low, int decimals) const {
     if (is_known(high)) {
-        spin->setMaximum(high);
-        max_label->setText(QString::number(high, 'f', decimals));
+        // Limits reported the wrong way round end as the spin box makes them (both at the
+        // minimum); aiming at that state keeps later refreshes from setting them again.
+        widget_update::set_maximum(spin, is_known(low) ? std::max(high, low) : high);
+        if (max_label) {
+            show_text(max_label, QString::number(high, 'f', decimals));
+        }
     }
     if (is_known(low)) {
-        spin->setMinimum(low);
-        min_label->setText(QString::number(low, 'f', decimals));
+        widget_update::set_minimum(spin, low);
+        if (min_label) {
+            show_text(min_label, QString::number(low, 'f', decimals));
+        }
     }
 }
 
@@ -282,11 +373,7 @@ void panel_base::show_indicator(QProgressBar *bar, double value, double low, dou
     if (reading_known(value) && is_known(low) && is_known(high)) {
         share = scaling::percent(value, low, high);
     }
-    if (!share) {
-        bar->reset();
-        return;
-    }
-    bar->setValue(qBound(bar->minimum(), *share, bar->maximum()));
+    widget_update::set_bar(bar, share);
 }
 
 void panel_base::on_laser_tab_button_clicked() {
@@ -296,12 +383,20 @@ void panel_base::on_laser_tab_button_clicked() {
     refresh_header();
 }
 
-void panel_base::show_alarm_details() {
-    QString text;
+QStringList panel_base::alarm_text() const {
+    QStringList set;
     for (int bit = 0; bit < 16; ++bit) {
         if ((alarm_word_ & (1 << bit)) && bit < alarm_texts_.size()) {
-            text += alarm_texts_[bit] + QLatin1Char('\n');
+            set.append(alarm_texts_[bit]);
         }
+    }
+    return set;
+}
+
+void panel_base::show_alarm_details() {
+    QString text;
+    for (const QString &line : alarm_text()) {
+        text += line + QLatin1Char('\n');
     }
     inform(this, tr("WARNING"), text);
 }
@@ -333,6 +428,13 @@ void panel_base::bind_setpoint(QDoubleSpinBox *spin, int code, double scale, QSt
         }
         queue_command(code, scaling::to_wire(value, scale));
     });
+    if (!command_names_.contains(code)) {
+        for (const reading_spec &reading : qAsConst(readings_)) {
+            if (reading.code == code + 128) {
+                describe_command(code, reading.quantity, reading.unit, scale);
+            }
+        }
+    }
 }
 
 bool panel_base::eventFilter(QObject *watched, QEvent *event) {

@@ -3,6 +3,7 @@
 #include "device_panel.h"
 #include "parameter_record.h"
 #include "poll_plan.h"
+#include "reading.h"
 
 #include <QHash>
 #include <QList>
@@ -74,10 +75,16 @@ public:
     int queued_commands() const { return queue_.size(); }
     bool body_shown() const;
     bool emission_on() const { return emission_on_; }
+    // Every reading the panel shows, as described by its constructor.
+    const QVector<reading_spec> &readings() const { return readings_; }
 
     // The note shown in the configuration dialog unless the panel gives its own: how to reach a
     // device for changing its CAN id.
     static QString usb_can_id_hint();
+
+signals:
+    // After every report the panel takes and every set-point it sends (see panel_observation).
+    void sig_observed(const panel_observation &observation);
 
 public slots:
     void sl_refresh_state() override;
@@ -109,10 +116,18 @@ protected:
     void set_dialog_hint(const QString &hint) { dialog_hint_ = hint; }
     void set_dialog_unknown_text(const QString &text) { dialog_unknown_text_ = text; }
 
-    // Reply `code` stores value / divisor into `field`.
-    void bind_reading(int code, double *field, double divisor);
-    // Reply `code` stores the value as it is.
-    void bind_state(int code, int *field);
+    // Reply `spec.code` stores value / divisor into `field` and, when given, shows it in `label`
+    // (sized once for the reading's widest text). The description also names the reading for the
+    // recorder and the trend window.
+    void bind_reading(const reading_spec &spec, double *field, QLabel *label = nullptr);
+    // Reply `code` stores the value as it is; a named state is also observed, shown as
+    // `text(value)` when that is given.
+    void bind_state(int code, int *field, const QString &quantity = {},
+                    std::function<QString(int)> text = {});
+    // Names what a write command sets, for observers: value on the wire / scale, in `unit`.
+    // Set-points bound with a code and scale are described from the reading reported under
+    // code + 128 when there is one.
+    void describe_command(int code, const QString &quantity, const QString &unit, double scale);
     // Reply `code` runs `handler` (after the stored fields of the same code).
     void bind_reply(int code, std::function<void(long)> handler);
 
@@ -169,9 +184,14 @@ protected:
     void mark_parameters_unknown();
     int alarm_word() const { return alarm_word_; }
     int tec_state() const { return tec_state_; }
-    // The alarm details box: the texts of the set bits 0 to 15, one per line; bits without a
-    // text are skipped.
+    // The texts of the alarm word's set bits 0 to 15; bits without a text are skipped.
+    QStringList alarm_text() const;
+    // The alarm details box: alarm_text(), one per line.
     void show_alarm_details();
+    // Sets the label's text only when it changes (see widget_update).
+    static void show_text(QLabel *label, const QString &text);
+    // Sizes a value label once for the widest text it shows, so later texts repaint it alone.
+    static void reserve_text(QLabel *label, const QString &widest);
     // Sets the spin box's limits and the limit labels when both values are known.
     void show_limits(QDoubleSpinBox *spin, QLabel *max_label, QLabel *min_label, double high,
                      double low, int decimals) const;
@@ -186,7 +206,17 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    struct command_name {
+        QString quantity;
+        QString unit;
+        double scale = 1;
+    };
+
     void take_parameter_report(int code, long value);
+    bool observed() const;
+    void observe(panel_observation::kind_t kind, const QString &quantity, double value,
+                 const QString &unit, const QString &text = {});
+    void observe_sent(const panel_command &command);
 
     poll_plan plan_;
     parameter_list parameters_;
@@ -200,6 +230,9 @@ private:
     QPointer<config_dialog> dialog_;
 
     QHash<int, QVector<std::function<void(long)>>> reply_handlers_;  // in binding order
+    QVector<reading_spec> readings_;
+    QHash<int, command_name> command_names_;
+    QHash<QString, double> last_observed_;  // by quantity
 
     QLabel *emission_label_ = nullptr;
     QList<QAbstractButton *> emission_switches_;

@@ -318,39 +318,6 @@ private slots:
         }
     }
 
-    void type_38_has_13_rows() {
-        auto panel = make_panel(38);
-        QStringList expected = full_labels;
-        expected.removeAll(QStringLiteral("Max tec current, A"));
-        QCOMPARE(labels_of(panel->parameters()), expected);
-        report_known(*panel, cw_raw());
-        panel->on_toolButton_clicked();
-        config_dialog *dialog = panel->configuration_dialog();
-        QVERIFY(dialog);
-        QStringList rows;
-        for (QDoubleSpinBox *spin : dialog->spin_boxes()) {
-            rows.append(spin->objectName());
-        }
-        QCOMPARE(rows, expected);
-        QCOMPARE(panel->dialog_unknown_text(), QStringLiteral("N/A"));
-        dialog->write_button()->click();
-        QCOMPARE(panel->queued_commands(), 13 + 13 + 1);
-    }
-
-    void write_queues_29_commands() {
-        auto panel = make_panel(14);
-        report_known(*panel, cw_raw());
-        panel->on_toolButton_clicked();
-        panel->configuration_dialog()->write_button()->click();
-        const QVector<panel_command> sent = run_ticks(*panel, 30);
-        QCOMPARE(text_of(sent.mid(0, 3)), QStringLiteral("(81,5) (37,10000) (38,1000)"));
-        QCOMPARE(text_of(sent.mid(11, 5)),
-                 QStringLiteral("(68,1000) (69,200) (70,0) (209,0) (165,0)"));
-        QCOMPARE(text_of(sent.mid(27, 3)), QStringLiteral("(198,0) (82,0) (144,0)"));
-        // The dialog stays open.
-        QVERIFY(panel->configuration_dialog());
-    }
-
     void dialog_changes_are_sent_at_once_data() {
         QTest::addColumn<QString>("row");
         QTest::addColumn<int>("steps");

@@ -38,6 +38,37 @@ QVector<panel_command> expected_cycle(const panel_base &panel, bool with_unknown
     return cycle;
 }
 
+// Counts the paints and layout requests of a window and everything in it.
+class event_counter : public QObject {
+public:
+    explicit event_counter(QWidget *window) : window_(window) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+    ~event_counter() override { QCoreApplication::instance()->removeEventFilter(this); }
+
+    QStringList paints;
+    QStringList layouts;
+    QString text() const { return (paints + layouts).join(QLatin1Char(' ')); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        auto *widget = qobject_cast<QWidget *>(watched);
+        if (widget && (widget == window_ || window_->isAncestorOf(widget))) {
+            const QString name = QString::fromLatin1(widget->metaObject()->className()) +
+                                 QLatin1Char(':') + widget->objectName();
+            if (event->type() == QEvent::Paint) {
+                paints.append(QStringLiteral("paint ") + name);
+            } else if (event->type() == QEvent::LayoutRequest) {
+                layouts.append(QStringLiteral("layout ") + name);
+            }
+        }
+        return false;
+    }
+
+private:
+    QWidget *window_;
+};
+
 }  // namespace
 
 // A form whose by-name slot names a widget that does not exist.
@@ -257,6 +288,79 @@ private slots:
             QVERIFY2(bar->value() >= bar->minimum() - 1 && bar->value() <= bar->maximum(),
                      qPrintable(bar->objectName() + QStringLiteral(" = ") +
                                 QString::number(bar->value())));
+        }
+    }
+
+    // --- Cheap updates and observers -------------------------------------------------------------
+
+    // Reports that repeat what the panel shows repaint and relayout nothing; a changed reading
+    // repaints but never relayouts the panel.
+    void steady_reports_change_nothing_data() { add_panel_types(); }
+    void steady_reports_change_nothing() {
+        QFETCH(int, type);
+        QWidget host;
+        auto panel = make_panel(type, QStringLiteral("Seed"), &host);
+        host.resize(900, 600);
+        host.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&host));
+        // 1: a valid mode, index or switch state for every panel.
+        const auto report_all = [&panel] {
+            report_parameters(*panel, raw_value);
+            for (int code : panel->plan().read_codes) {
+                if (code != poll_plan::silent) {
+                    panel->sl_parsed_data_received(code, 1);
+                }
+            }
+        };
+        const auto report_readings = [&panel](long raw) {
+            for (const reading_spec &reading : panel->readings()) {
+                panel->sl_parsed_data_received(reading.code, raw);
+            }
+        };
+        const auto settle = [] {
+            for (int i = 0; i < 3; ++i) {
+                QCoreApplication::sendPostedEvents();
+                QCoreApplication::processEvents();
+            }
+        };
+        report_all();
+        report_all();  // first sync done
+        settle();
+
+        event_counter events(&host);
+        report_all();
+        settle();
+        QCOMPARE(events.text(), QString());
+
+        report_readings(300);
+        settle();
+        report_readings(301);
+        settle();
+        QCOMPARE(events.layouts, QStringList());
+    }
+
+    // Every described reading reaches observers with its quantity, unit and scaled value, and its
+    // value label (if any) shows the same text.
+    void readings_are_observed_data() { add_panel_types(); }
+    void readings_are_observed() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        QVERIFY(!panel->readings().isEmpty());
+        QSignalSpy observed(panel.get(), &panel_base::sig_observed);
+        for (const reading_spec &reading : panel->readings()) {
+            QVERIFY(!reading.quantity.isEmpty());
+            observed.clear();
+            panel->sl_parsed_data_received(reading.code, -250);
+            bool seen = false;
+            for (const QList<QVariant> &args : qAsConst(observed)) {
+                const auto o = args.first().value<panel_observation>();
+                if (o.kind == panel_observation::reading && o.quantity == reading.quantity) {
+                    QCOMPARE(o.value, -250 / reading.divisor);
+                    QCOMPARE(o.unit, reading.unit);
+                    seen = true;
+                }
+            }
+            QVERIFY2(seen, qPrintable(reading.quantity));
         }
     }
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+
+// A quantity that a panel shows, described once: how the device reports it and how the operator
+// reads it. The same description drives the panel's value label, the recorder and the trend window.
+struct reading_spec {
+    int code = 0;        // report code (the quantity's write code + 128)
+    QString quantity;    // what it is, e.g. "Current"
+    QString unit;        // unit shown after the value, e.g. "mA"; empty for plain numbers
+    double divisor = 1;  // reported integer / divisor = value in `unit`
+    int decimals = 1;    // decimals shown
+    int int_digits = 4;  // integer digits the value label is sized for (it grows if needed)
+
+    // "12.3 mA": the value with the reading's decimals and unit.
+    QString text(double value) const;
+    // The widest text the value label is sized for at first.
+    QString widest_text() const;
+};
+
+// What a panel tells listeners (recorder, trend window): a reported reading or state, a set-point
+// or parameter the operator sent, or a parameter the device reported.
+struct panel_observation {
+    enum kind_t { reading, state, setpoint, parameter };
+
+    kind_t kind = reading;
+    QString quantity;
+    double value = 0;
+    QString unit;
+    QString text;         // as the panel shows it ("ON", a mode's name); empty for plain numbers
+    bool changed = true;  // differs from the previous observation of the same quantity
+};
+
+Q_DECLARE_METATYPE(panel_observation)
