@@ -94,8 +94,15 @@ main_window::main_window(const QString &brand, const panel_registry *registry, Q
     ui->device_table->installEventFilter(this);
     show_emission(false);
 
+    // The polling cycle runs while the port is open, as the link's send-now pulse (sl_sender())
+    // would run it; the state is read directly, so a tick costs no round trip through the link's
+    // thread.
     poll_timer_ = new QTimer(this);
-    connect(poll_timer_, &QTimer::timeout, serial_, &serial_connector::sl_sender);
+    connect(poll_timer_, &QTimer::timeout, this, [this] {
+        if (serial_->polling_ready()) {
+            sl_tearing();
+        }
+    });
     poll_timer_->start(poll_interval_ms);
 
     installEventFilter(this);
@@ -256,8 +263,7 @@ void main_window::create_device(int can_id, const QString &name, int slot) {
                                     .arg(frame_codec::max_can_id, 0, 16);
     }
     connect(dev, &device::sig_change_ui_widget, this, &main_window::sl_change_ui_widget);
-    connect(serial_, &serial_connector::sig_parse_received_message, dev,
-            &device::sl_d_data_received);
+    dev->listen_to(serial_);
 
     auto *container = new QWidget;
     auto *layout = new QVBoxLayout(container);

@@ -16,3 +16,9 @@ void prepare_program(QApplication &app, QTranslator &translator);
 // the GUI thread, which watches the pipe. Call once, after the application object exists; `parent`
 // owns the watcher.
 void quit_on_signal(QObject *parent);
+
+// Reads the program's own command-line options. "--log-wire" writes every frame sent and every line
+// received to the debug log (off by default); "--help" lists the options. An unknown option ends
+// the program with a message, as does --help after printing the list. Call after the application
+// object exists.
+void read_command_line(const QApplication &app);

@@ -7,6 +7,16 @@
 
 #include <poll.h>
 
+// Deliberately off by default (debug and below), unlike the link's other debug lines: with them,
+// every frame written and every line received would go to the debug log, two lines per request
+// at full polling rate.
+Q_LOGGING_CATEGORY(wire_log, "lumivox.wire", QtInfoMsg)
+
+void serial_connector::enable_wire_log() {
+    QLoggingCategory::setFilterRules(QLatin1String(wire_log().categoryName()) +
+                                     QLatin1String(".debug=true"));
+}
+
 serial_connector::serial_connector(QObject *parent) : QObject(parent) {
     moveToThread(worker_.thread());
 }
@@ -22,6 +32,7 @@ void serial_connector::release_port() {
         delete port_;
         port_ = nullptr;
     }
+    publish_state();
 }
 
 QString serial_connector::port_name() const {
@@ -53,10 +64,15 @@ void serial_connector::replace_port(QSerialPort *port) {
     }
     port_ = port;
     buffer_.clear();
+    publish_state();
 }
 
 bool serial_connector::port_ready() const {
     return port_ && port_->isOpen() && port_->isWritable();
+}
+
+void serial_connector::publish_state() {
+    polling_ready_.store(port_ready());
 }
 
 void serial_connector::sl_serial_connect(QString name) {
@@ -71,6 +87,7 @@ void serial_connector::sl_serial_connect(QString name) {
         emit sig_disconnected();
         return;
     }
+    publish_state();
     port_->flush();
     port_->clear(QSerialPort::AllDirections);
 
@@ -94,6 +111,7 @@ void serial_connector::sl_serial_reconnect() {
     if (port_) {
         port_->close();
     }
+    publish_state();
     qDebug() << "serial port DISONNECTED by soft";
 }
 
@@ -121,6 +139,7 @@ void serial_connector::sl_serial_handle_error(QSerialPort::SerialPortError error
         return;
     }
     port_->close();
+    publish_state();
     buffer_.clear();
     emit sig_disconnected();
     qDebug() << "serial port DISONNECTED by error";
@@ -130,6 +149,7 @@ void serial_connector::sl_serial_disconnect() {
     if (port_) {
         port_->close();
     }
+    publish_state();
     buffer_.clear();
     emit sig_disconnected();
 }
@@ -165,7 +185,7 @@ void serial_connector::sl_data_received() {
         const QList<QByteArray> lines = line_cutter::append(buffer_, chunk);
         for (const QByteArray &piece : lines) {
             const QString line = QString::fromUtf8(piece);
-            qDebug().noquote() << line;
+            qCDebug(wire_log).noquote() << line;
             emit sig_parse_received_message(line);
         }
     }
@@ -176,7 +196,7 @@ void serial_connector::sl_send_string(QString text) {
     if (!port_ready()) {
         return;
     }
-    qDebug().noquote() << text;
+    qCDebug(wire_log).noquote() << text;
     QByteArray bytes = text.toUtf8();
     bytes.append("\r\n", 2);
     port_->write(bytes);
