@@ -355,7 +355,7 @@ private slots:
             for (const QList<QVariant> &args : qAsConst(observed)) {
                 const auto o = args.first().value<panel_observation>();
                 if (o.kind == panel_observation::reading && o.quantity == reading.quantity) {
-                    QCOMPARE(o.value, -250 / reading.divisor);
+                    QCOMPARE(o.value, (-250 - reading.offset) / reading.divisor);
                     QCOMPARE(o.unit, reading.unit);
                     seen = true;
                 }
