@@ -1,7 +1,10 @@
 #include "panels.h"
 
+#include "comb_laser.h"
 #include "cw_panel.h"
+#include "heater.h"
 #include "panel_registry.h"
+#include "pulse_picker.h"
 #include "vtr_cw_1800_zif.h"
 
 #include <QVector>
@@ -41,4 +44,10 @@ void register_panels(panel_registry &registry) {
     }
     registry.add(15, vtr_cw_1800_zif::model_name(),
                  [](QWidget *parent) -> device_panel * { return new vtr_cw_1800_zif(parent); });
+    registry.add(4, heater::model_name(),
+                 [](QWidget *parent) -> device_panel * { return new heater(parent); });
+    registry.add(5, pulse_picker::model_name(),
+                 [](QWidget *parent) -> device_panel * { return new pulse_picker(parent); });
+    registry.add(17, comb_laser::model_name(),
+                 [](QWidget *parent) -> device_panel * { return new comb_laser(parent); });
 }
