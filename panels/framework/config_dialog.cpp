@@ -47,7 +47,8 @@ config_dialog::config_dialog(const QString &display_name, const parameter_list &
         spin->setMaximum(4294967295.0);
         spin->setDecimals(record.decimals);
         spin->setSingleStep(record.step);
-        spin->setValue(record.value);
+        // A row not yet reported starts at the minimum, whatever mark the panel keeps for it.
+        spin->setValue(record.value == unknown_mark ? spin->minimum() : record.value);
         spin->setObjectName(record.label);
         // Fixed widths line the rows up into columns.
         value->setFixedWidth(70);
