@@ -37,6 +37,7 @@ ps28_panel::ps28_panel(QWidget *parent) : ps_driver_base(parent), ui(new Ui::ps2
     // Turning the wheel over the sync mode would ask to make this driver a master or a slave.
     block_wheel(ui->cb_sync_mode);
     ui->cb_sync_mode->addItems(sync_mode_names());
+    reserve_widest(ui->l_sync_mode, sync_mode_names());
 
     finish_setup(ui->device_widget);
 }

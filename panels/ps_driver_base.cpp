@@ -75,9 +75,12 @@ void ps_driver_base::setup_driver(const widgets &form, const traits &member, con
     block_wheel(w_.cb_freq_range);
     block_wheel(w_.cb_mode);
 
+    QStringList names;
     for (const mode_entry &mode : qAsConst(t_.modes)) {
-        w_.cb_mode->addItem(mode.name);
+        names.append(mode.name);
     }
+    w_.cb_mode->addItems(names);
+    reserve_widest(w_.l_mode, names);
     on_cb_freq_range_activated(w_.cb_freq_range->currentIndex());
     // The form's placeholder under "Voltage:" is not a voltage; show the reading's own form.
     show_text(w_.l_volt, voltage_spec.text(0.0));
@@ -231,6 +234,17 @@ void ps_driver_base::refresh_display() {
     const bool rate_settable = source_ != source_without_rate;
     w_.cb_freq_range->setEnabled(rate_settable);
     w_.dsb_freq->setEnabled(rate_settable);
+}
+
+void ps_driver_base::reserve_widest(QLabel *label, const QStringList &texts) {
+    QString widest;
+    for (const QString &text : texts) {
+        if (label->fontMetrics().horizontalAdvance(text) >
+            label->fontMetrics().horizontalAdvance(widest)) {
+            widest = text;
+        }
+    }
+    reserve_text(label, widest);
 }
 
 bool ps_driver_base::load(QDoubleSpinBox *spin, double reading) {

@@ -2,6 +2,7 @@
 
 #include "panel_base.h"
 
+#include <QStringList>
 #include <QVector>
 
 class QCheckBox;
@@ -179,6 +180,8 @@ protected:
     // the span alone.
     void show_share(QProgressBar *bar, double reading, double low, double high,
                     bool from_minimum) const;
+    // Sizes a label once for the widest of the names it shows.
+    static void reserve_widest(QLabel *label, const QStringList &texts);
     // Loads a set-point spin box from a reading; false while the reading is unknown.
     static bool load(QDoubleSpinBox *spin, double reading);
 

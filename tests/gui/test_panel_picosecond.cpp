@@ -227,7 +227,7 @@ private slots:
         row("35 both bars from the minimum", 35, "rows 152=200 146=300", "", "",
             "i_voltage=50;i_temp=50");
         row("26 neither bar from the minimum; energy", 26, "rows 152=200 146=300 188=250", "", "",
-            "i_voltage=100;i_temp=150;i_energy=50;dsb_energy.max=50;l_energy_max=50.0;"
+            "i_voltage=100;i_temp=100;i_energy=50;dsb_energy.max=50;l_energy_max=50.0;"
             "?volt_widget=hidden;?energy_widget=shown");
         row("26 energy above its maximum", 26, "rows 188=600", "", "", "i_energy=100");
         row("26 zero max energy", 26, "rows 189=0 188=10", "", "", "i_energy=-1;dsb_energy.max=0");
