@@ -22,6 +22,15 @@ const QMap<int, double> parameter_values{{81, 5},   {37, 1000}, {38, 100},   {66
                                          {55, 30},  {54, 15},   {22, 10000}, {21, 3950}, {51, 1.5},
                                          {23, 2.0}, {68, 0.1},  {69, 0.02},  {70, 0}};
 
+// Where a family keeps other quantities under the same codes (the picosecond drivers bound their
+// drive voltage with 37 and 38), or has rows of its own.
+const QMap<int, double> picosecond_values{{37, 30},    {38, 0},   {55, 40},  {54, 15}, {56, 0.001},
+                                          {57, -0.02}, {58, 2.5}, {59, 1.0}, {61, 10}};
+const QMap<int, QMap<int, double>> type_parameter_values{{20, picosecond_values},
+                                                         {26, picosecond_values},
+                                                         {28, picosecond_values},
+                                                         {35, picosecond_values}};
+
 // Device reports (code, raw value) per panel type, as a running device would send them.
 const QMap<int, QVector<QPair<int, long>>> readings{
     {14, {{144, 1}, {145, 5123}, {146, 251}, {148, 245}, {164, 0}, {161, 1}, {176, 0x101}}},
@@ -41,12 +50,38 @@ const QMap<int, QVector<QPair<int, long>>> readings{
       {160, 1},
       {152, -250},
       {180, 2140}}},
+    {20,
+     {{160, 1}, {152, 215}, {146, 251}, {153, 2500000}, {180, 5}, {181, 2}, {164, 0}, {161, 1}}},
+    {26,
+     {{160, 1},
+      {152, 180},
+      {146, 249},
+      {153, 100000},
+      {180, 1},
+      {181, 0},
+      {164, 2},
+      {161, 1},
+      {188, 57}}},
+    {28,
+     {{160, 0},
+      {152, 0},
+      {146, 230},
+      {153, 20000},
+      {180, 1},
+      {181, 0},
+      {164, 1},
+      {161, 1},
+      {201, 2},
+      {200, 12},
+      {199, -35}}},
+    {35, {{162, 1}, {152, 240}, {146, 250}, {153, 40000000}, {164, 0}, {161, 1}, {176, 0x201}}},
 };
 
 void feed(panel_base &panel, int type) {
     const parameter_list parameters = panel.parameters();
     for (const parameter_record &record : parameters) {
-        const double value = parameter_values.value(record.code, 1.0);
+        const double value = type_parameter_values.value(type).value(
+            record.code, parameter_values.value(record.code, 1.0));
         panel.sl_parsed_data_received(record.code + 128,
                                       scaling::to_wire(value, scaling::pow10(record.decimals)));
     }

@@ -161,7 +161,7 @@ struct drive_case {
 const QList<drive_case> drive_cases{
     {14, 16, 17, 5000, 5000},   {15, 16, 17, 50000, 5000000}, {17, 16, 17, 3000, 3000},
     {18, 16, 17, 50000, 50000}, {19, 32, 24, 1000, 1000},     {20, 32, 24, 150, 150},
-    {23, 32, 24, 1000, 1000},   {25, 16, 17, 100000, 100000}, {26, 32, 24, 150, 150},
+    {23, 32, 24, 1000, 1000},   {25, 16, 17, 100000, 100000}, {26, 32, 60, 50, 50},
     {27, 16, 17, 5000, 5000},   {28, 32, 24, 150, 150},       {29, 32, 24, 1000, 1000},
     {31, 32, 24, 150, 150},     {34, 16, 17, 2000, 2000},     {35, 34, 24, 150, 150},
     {38, 16, 17, 4000, 4000},
@@ -407,6 +407,43 @@ private slots:
             r.bus.advance(120000);
             QCOMPARE(r.value(6, 146), std::optional<long>(start));
         }
+    }
+
+    // The energy-calibrated driver's voltage comes from its energy through the calibration rows.
+    void energy_calibration_sets_the_drive_voltage_data() {
+        QTest::addColumn<long>("energy");  // 0.1 units
+        QTest::addColumn<long>("a1");      // 1e-6 V per unit
+        QTest::addColumn<long>("volts");   // 0.1 V
+        QTest::newRow("5.0: 0.125 - 0.5 + 12.5 + 1 V") << 50L << 2500000L << 131L;
+        QTest::newRow("steeper a1") << 50L << 3000000L << 156L;
+        QTest::newRow("held to the 30.0 V maximum") << 100L << 4000000L << 300L;
+    }
+    void energy_calibration_sets_the_drive_voltage() {
+        QFETCH(long, energy);
+        QFETCH(long, a1);
+        QFETCH(long, volts);
+        rig r;
+        QVERIFY(r.add(1, 26));
+        r.send(1, 58, a1);
+        r.send(1, 60, energy);
+        r.send(1, 32, 1);
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, 188), std::optional<long>(energy));
+        QCOMPARE(r.value(1, 152), std::optional<long>(volts));
+        r.send(1, 32, 0);
+        QCOMPARE(r.value(1, 152), std::optional<long>(0));
+    }
+
+    void module_warns_near_its_maximum_voltage() {
+        rig r;
+        QVERIFY(r.add(1, 35));
+        r.send(1, 24, 290);  // 29.0 V of 30.0
+        r.send(1, 34, 1);
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, 176), std::optional<long>(0x200));
+        r.send(1, 24, 200);
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, 176), std::optional<long>(0));
     }
 
     void comb_bias_and_tec_current() {
