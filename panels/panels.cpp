@@ -1,8 +1,13 @@
 #include "panels.h"
 
 #include "cw_panel.h"
+#include "ns23_panel.h"
+#include "ns29_panel.h"
+#include "ns_gss_id19.h"
+#include "ns_gss_triangle_panel.h"
 #include "panel_registry.h"
 #include "vtr_cw_1800_zif.h"
+#include "vtr_sns_panel.h"
 
 #include <QVector>
 
@@ -23,6 +28,13 @@ const cw_variant cw_variants[] = {
     {38, 2, {9}, true},      // no "Max tec current, A"
 };
 
+// A panel class that serves one device type as it is built.
+template <class Panel>
+void add_panel(panel_registry &registry, int type_id) {
+    registry.add(type_id, Panel::model_name(),
+                 [](QWidget *parent) -> device_panel * { return new Panel(parent); });
+}
+
 }  // namespace
 
 void register_panels(panel_registry &registry) {
@@ -39,6 +51,10 @@ void register_panels(panel_registry &registry) {
                          return panel;
                      });
     }
-    registry.add(15, vtr_cw_1800_zif::model_name(),
-                 [](QWidget *parent) -> device_panel * { return new vtr_cw_1800_zif(parent); });
+    add_panel<vtr_cw_1800_zif>(registry, 15);
+    add_panel<ns_gss_id19>(registry, 19);
+    add_panel<ns23_panel>(registry, 23);
+    add_panel<ns29_panel>(registry, 29);
+    add_panel<ns_gss_triangle_panel>(registry, 31);
+    add_panel<vtr_sns_panel>(registry, 36);
 }
