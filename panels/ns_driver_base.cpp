@@ -83,7 +83,7 @@ void ns_driver_base::setup_driver(const widgets &form, const QVector<int> &extra
     reserve_text(w_.l_freq, frequency_text(888888));
     // The rate and the duration bound each other: their limit labels change with the readings.
     for (QLabel *label : {w_.l_freq_min, w_.l_freq_max}) {
-        reserve_text(label, QStringLiteral("88888"));
+        reserve_text(label, QStringLiteral("88888888"));
     }
     for (QLabel *label : {w_.l_dura_min, w_.l_dura_max}) {
         reserve_text(label, QStringLiteral("88888.8"));
