@@ -13,15 +13,6 @@ using namespace panel_test;
 
 namespace {
 
-template <class W>
-W *child(panel_base &panel, const QString &name) {
-    W *widget = panel.findChild<W *>(name);
-    if (!widget) {
-        qFatal("no %s in the panel", qPrintable(name));
-    }
-    return widget;
-}
-
 // Reports "code:value code:value ..." in order.
 void report(panel_base &panel, const QString &reports) {
     for (const QString &pair : reports.split(' ', Qt::SkipEmptyParts)) {
