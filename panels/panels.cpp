@@ -4,12 +4,17 @@
 #include "cw_panel.h"
 #include "heater.h"
 #include "kso_ps_640_panel.h"
+#include "ns23_panel.h"
+#include "ns29_panel.h"
+#include "ns_gss_id19.h"
+#include "ns_gss_triangle_panel.h"
 #include "panel_registry.h"
 #include "ps20_panel.h"
 #include "ps26_panel.h"
 #include "ps28_panel.h"
 #include "pulse_picker.h"
 #include "vtr_cw_1800_zif.h"
+#include "vtr_sns_panel.h"
 
 #include <QVector>
 
@@ -61,4 +66,9 @@ void register_panels(panel_registry &registry) {
     add_single<ps26_panel>(registry, 26);
     add_single<ps28_panel>(registry, 28);
     add_single<kso_ps_640_panel>(registry, 35);
+    add_single<ns_gss_id19>(registry, 19);
+    add_single<ns23_panel>(registry, 23);
+    add_single<ns29_panel>(registry, 29);
+    add_single<ns_gss_triangle_panel>(registry, 31);
+    add_single<vtr_sns_panel>(registry, 36);
 }

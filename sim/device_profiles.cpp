@@ -331,15 +331,42 @@ device_profile ps_module() {
     return b.hook(output_near_max).done();
 }
 
+// The driver keeps its pulse within 2 % of the period, and within 100 ns under an external
+// trigger: a longer duration is cut to what the rate allows.
+void ns_duty_cycle(sim_device &d) {
+    qint64 limit = 0;  // 0.1 ns
+    if (d.value(36) == 2) {
+        limit = 1000;
+    } else if (d.value(25) > 0) {
+        limit = qMax<qint64>(1, 200000000 / qint64(d.value(25)));  // 0.02 of the period
+    }
+    if (limit > 0 && d.value(35) > limit) {
+        d.set_measured(35, static_cast<qint32>(limit));
+    }
+}
+
+// A synchronised driver (sync mode 73: 0 normal, 1 master, 2 slave) pulses only on its internal
+// clock without bursts, or on demand, while it is master or slave.
+void ns_sync_rules(sim_device &d) {
+    ns_duty_cycle(d);
+    if (d.value(73) != 0) {
+        if (d.value(36) == 2) {
+            d.set_measured(36, 0);
+        }
+        d.set_measured(53, 0);
+    }
+}
+
 // Nanosecond driver: repetition rate 25 (Hz), pulse duration 35 (0.1 ns), burst counts, trigger
-// source 36, TEC; emission on 32 with its companion switch 34.
+// source 36 (0 internal, 1 pulse on demand, 2 external), TEC; emission on 32 with its companion
+// switch 34.
 builder ns_family(int type, const char *model) {
     builder b(type, model);
     b.emission(32).store(82);
     b.add({plain(34), plain(25, 10000), plain(35, 100), plain(36)});
     burst_counts(b);
     b.temperature_limits(40, 15, 10).thermistor().tec();
-    return b;
+    return b.hook(ns_duty_cycle);
 }
 
 // Current-driven members: current 24 in 0.01 A ramps after emission; nominal diode voltage 56.
@@ -348,7 +375,9 @@ device_profile ns_current(int type, const char *model) {
     b.add({config(37, 5000), config(38, 50), config(56, 250)}).regulator();
     b.follow(follower_def::ramp_of(24, 2000, 32).limited(37, 38));
     if (type == 29) {
-        sync_block(b);
+        // Pulse delay 71 and sync delay 72 (0.1 ns, may be negative), sync mode 73: kept in flash
+        // with the configuration when it is stored.
+        b.add({config(71, 0), config(72, 0), config(73, 0)}).hook(ns_sync_rules);
     }
     if (type == 19) {
         b.add({plain(57)});  // DC bias current, 0.1 mA

@@ -488,6 +488,45 @@ private slots:
         QCOMPARE(r.value(8, 149), std::optional<long>(seed * numerator / denominator));
     }
 
+    // The nanosecond drivers keep the pulse within 2 % of the period (100 ns under an external
+    // trigger); a synchronised one pulses without bursts or external trigger while it is master
+    // or slave, and keeps its sync settings once stored.
+    void nanosecond_rules_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<pair_list>("writes");
+        QTest::addColumn<bool>("reset");
+        QTest::addColumn<int>("read");
+        QTest::addColumn<long>("expected");
+        using w = pair_list;
+        QTest::newRow("cut to 2 % at 1 kHz")
+            << 23 << w{{25, 1000}, {35, 300000}} << false << 163 << 200000L;
+        QTest::newRow("cut by a higher rate")
+            << 19 << w{{35, 1000}, {25, 1000000}} << false << 163 << 200L;
+        QTest::newRow("within 2 %") << 31 << w{{25, 1000}, {35, 5000}} << false << 163 << 5000L;
+        QTest::newRow("external: 100 ns") << 23 << w{{35, 1500}, {36, 2}} << false << 163 << 1000L;
+        QTest::newRow("master: no burst") << 29 << w{{53, 5}, {73, 1}} << false << 181 << 0L;
+        QTest::newRow("slave: no external") << 29 << w{{73, 2}, {36, 2}} << false << 164 << 0L;
+        QTest::newRow("normal: burst") << 29 << w{{53, 5}} << false << 181 << 5L;
+        QTest::newRow("sync mode stored") << 29 << w{{73, 1}, {82, 0}} << true << 201 << 1L;
+        QTest::newRow("sync mode not stored") << 29 << w{{73, 1}} << true << 201 << 0L;
+    }
+    void nanosecond_rules() {
+        QFETCH(int, type);
+        QFETCH(pair_list, writes);
+        QFETCH(bool, reset);
+        QFETCH(int, read);
+        QFETCH(long, expected);
+        rig r;
+        sim_device *dev = r.add(4, type);
+        for (const auto &wr : writes) {
+            r.send(4, wr.first, wr.second);
+        }
+        if (reset) {
+            dev->reset();
+        }
+        QCOMPARE(r.value(4, read), std::optional<long>(expected));
+    }
+
     void store_keeps_configuration_over_a_reset_data() {
         QTest::addColumn<int>("type");
         QTest::addColumn<int>("store");
