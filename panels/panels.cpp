@@ -3,6 +3,9 @@
 #include "cw_panel.h"
 #include "panel_registry.h"
 #include "vtr_cw_1800_zif.h"
+#include "zema120_panel.h"
+#include "zema240_panel.h"
+#include "zema_panel.h"
 
 #include <QVector>
 
@@ -41,4 +44,10 @@ void register_panels(panel_registry &registry) {
     }
     registry.add(15, vtr_cw_1800_zif::model_name(),
                  [](QWidget *parent) -> device_panel * { return new vtr_cw_1800_zif(parent); });
+    registry.add(18, zema_panel::model_name(),
+                 [](QWidget *parent) -> device_panel * { return new zema_panel(parent); });
+    registry.add(25, zema240_panel::model_name(),
+                 [](QWidget *parent) -> device_panel * { return new zema240_panel(parent); });
+    registry.add(27, zema120_panel::model_name(),
+                 [](QWidget *parent) -> device_panel * { return new zema120_panel(parent); });
 }

@@ -22,18 +22,30 @@ const QMap<int, double> parameter_values{{81, 5},   {37, 1000}, {38, 100},   {66
                                          {55, 30},  {54, 15},   {22, 10000}, {21, 3950}, {51, 1.5},
                                          {23, 2.0}, {68, 0.1},  {69, 0.02},  {70, 0}};
 
+// Where a type's configuration differs from the common values above: (code, physical value).
+const QMap<int, QMap<int, double>> parameter_overrides{
+    {25, {{37, 240}, {24, 0.5}, {19, 0.05}, {25, 0}}},
+    {27, {{37, 120}, {24, 0.5}, {19, 0.05}, {25, 0}}},
+    {18, {{37, 1200}, {24, 0.5}, {19, 0.05}, {25, 0}}},
+};
+
 // Device reports (code, raw value) per panel type, as a running device would send them.
 const QMap<int, QVector<QPair<int, long>>> readings{
     {14, {{144, 1}, {145, 5123}, {146, 251}, {148, 245}, {164, 0}, {161, 1}, {176, 0x101}}},
     {34, {{144, 0}, {145, 1500}, {146, 224}, {148, 88}, {164, 0}, {161, 1}, {176, 0}}},
     {38, {{144, 1}, {145, 800}, {146, 199}, {148, 31}, {164, 3}, {161, 0}, {176, 0}}},
     {15, {{144, 1}, {145, 5123456}, {146, 251234}, {148, 245}, {164, 0}, {161, 1}}},
+    {18, {{144, 1}, {145, 51234}, {146, 287}, {164, 0}, {176, 0x100}, {148, 480}, {166, 312}}},
+    {25,
+     {{144, 1}, {145, 182507}, {146, 250}, {164, 1}, {176, 0}, {148, 480}, {166, 254}, {168, 291}}},
+    {27, {{144, 0}, {145, 0}, {146, 231}, {176, 0}, {148, 240}, {166, 0}}},
 };
 
 void feed(panel_base &panel, int type) {
     const parameter_list parameters = panel.parameters();
     for (const parameter_record &record : parameters) {
-        const double value = parameter_values.value(record.code, 1.0);
+        const double value = parameter_overrides.value(type).value(
+            record.code, parameter_values.value(record.code, 1.0));
         panel.sl_parsed_data_received(record.code + 128,
                                       scaling::to_wire(value, scaling::pow10(record.decimals)));
     }
