@@ -15,6 +15,9 @@
 #include "pulse_picker.h"
 #include "vtr_cw_1800_zif.h"
 #include "vtr_sns_panel.h"
+#include "zema120_panel.h"
+#include "zema240_panel.h"
+#include "zema_panel.h"
 
 #include <QVector>
 
@@ -71,4 +74,7 @@ void register_panels(panel_registry &registry) {
     add_single<ns29_panel>(registry, 29);
     add_single<ns_gss_triangle_panel>(registry, 31);
     add_single<vtr_sns_panel>(registry, 36);
+    add_single<zema_panel>(registry, 18);
+    add_single<zema240_panel>(registry, 25);
+    add_single<zema120_panel>(registry, 27);
 }

@@ -406,11 +406,21 @@ device_profile sns() {
     return b.done();
 }
 
+// The high-power drivers warn that the output power is close to its maximum (alarm bit 9) once
+// the current (17) reaches 95 % of its maximum row (37); the bit stays latched until cleared.
+void high_power_warnings(sim_device &d) {
+    const follower_def *current = d.profile().find_follower(17);
+    const qint64 max = current ? qint64(d.value(37)) * current->limit_scale * current->scale : 0;
+    if (max > 0 && qint64(d.value(17)) * 100 >= max * 95) {
+        d.set_measured(48, static_cast<qint32>(quint32(d.value(48)) | 0x200));
+    }
+}
+
 // High-power driver family: permanent address 0xFA, alarm word 48 cleared by 41, store 51,
 // regulator on 24/19/25, input voltage 20 (0.1 V), output voltage 38 rising with the current.
 builder high_power(int type, const char *model, int max_current_ca) {
     builder b(type, model);
-    b.emission(16).alarm(48, 41).store(51).fixed_address_fa();
+    b.emission(16).alarm(48, 41).store(51).fixed_address_fa().hook(high_power_warnings);
     b.add({fixed(20, 480), config(37, max_current_ca)}).regulator(24, 19, 25);
     return b;
 }

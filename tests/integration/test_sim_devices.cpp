@@ -323,13 +323,17 @@ private slots:
         QTest::addColumn<long>("max_row");  // the new "Max current" row value
         QTest::addColumn<long>("set");      // a set point above it
         QTest::addColumn<long>("reading");  // what the drive settles at
-        QTest::newRow("CW, 0.1 mA") << 14 << 16 << 10000L << 15000L << 10000L;
+        QTest::addColumn<long>("alarm");    // alarm word then (-1: the type has none)
+        QTest::newRow("CW, 0.1 mA") << 14 << 16 << 10000L << 15000L << 10000L << 0L;
         QTest::newRow("precision CW, 0.01 mA set, 0.0001 mA reported")
-            << 15 << 16 << 20000L << 30000L << 2000000L;
-        QTest::newRow("nanosecond, 0.01 A") << 23 << 32 << 800L << 1200L << 800L;
-        QTest::newRow("high power, 0.01 A") << 18 << 16 << 2000L << 3000L << 2000L;
+            << 15 << 16 << 20000L << 30000L << 2000000L << -1L;
+        QTest::newRow("nanosecond, 0.01 A") << 23 << 32 << 800L << 1200L << 800L << -1L;
+        QTest::newRow("high power, 0.01 A, power close to MAX")
+            << 18 << 16 << 2000L << 3000L << 2000L << 0x200L;
         QTest::newRow("high power with TEC, mA against a 0.01 A row")
-            << 25 << 16 << 2000L << 30000L << 20000L;
+            << 25 << 16 << 2000L << 30000L << 20000L << 0x200L;
+        QTest::newRow("compact high power, 94 % of the maximum: no warning")
+            << 27 << 16 << 2000L << 1880L << 1880L << 0L;
     }
     void drive_set_point_is_held_to_the_configured_maximum() {
         QFETCH(int, type);
@@ -337,6 +341,7 @@ private slots:
         QFETCH(long, max_row);
         QFETCH(long, set);
         QFETCH(long, reading);
+        QFETCH(long, alarm);
         rig r;
         QVERIFY(r.add(1, type));
         const int drive = type == 23 ? 24 : 17;
@@ -345,6 +350,7 @@ private slots:
         r.send(1, emission, 1);
         r.bus.advance(60000);
         QCOMPARE(r.value(1, drive + 128), std::optional<long>(reading));
+        QCOMPARE(r.value(1, 176), alarm < 0 ? std::nullopt : std::optional<long>(alarm));
     }
 
     void constant_power_mode_regulates_the_power() {
