@@ -1,8 +1,10 @@
 #include "main_window.h"
 
 #include "device_panel.h"
+#include "observation_hub.h"
 #include "panel_registry.h"
 #include "serial_connector.h"
+#include "trend_window.h"
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
@@ -13,6 +15,7 @@
 #include <QPixmap>
 #include <QSerialPortInfo>
 #include <QSettings>
+#include <QShortcut>
 #include <QSpinBox>
 #include <QStyle>
 #include <QThread>
@@ -47,8 +50,8 @@ const brand_look brand_looks[] = {
      ":/interface/SkarN_logo.png", 273, 60},
     {"Quibrel", "QWidget {\n\tbackground-color: rgb(60, 145, 136);\n}",
      ":/interface/quibrel_logo_PNG.png", 215, 60},
-    {"Veltrano", "QWidget {\n\tbackground-color: rgb(35, 39, 215);\n}",
-     ":/interface/veltrano.png", 273, 35},
+    {"Veltrano", "QWidget {\n\tbackground-color: rgb(35, 39, 215);\n}", ":/interface/veltrano.png",
+     273, 35},
     {nullptr, "QWidget {\n\tbackground-color: rgb(76, 109, 128);\n}",
      ":/interface/power_version.png", 128, 95},
 };
@@ -58,7 +61,9 @@ constexpr int generic_header_max_height = 107;
 constexpr int min_can_id = 1;
 constexpr int max_can_id = 255;
 
-QString key(const char *prefix, int n) { return QLatin1String(prefix) + QString::number(n); }
+QString key(const char *prefix, int n) {
+    return QLatin1String(prefix) + QString::number(n);
+}
 
 }  // namespace
 
@@ -78,7 +83,8 @@ main_window::main_window(const QString &brand, const panel_registry *registry, Q
 
     // The link has no parent: it lives in a thread of its own and is deleted by the destructor.
     serial_ = new serial_connector;
-    connect(this, &main_window::sig_init_connection, serial_, &serial_connector::sl_init_connection);
+    connect(this, &main_window::sig_init_connection, serial_,
+            &serial_connector::sl_init_connection);
     connect(this, &main_window::sig_disconnect, serial_, &serial_connector::sl_serial_disconnect);
     connect(serial_, &serial_connector::sig_connected, this, &main_window::sl_serial_connected);
     connect(serial_, &serial_connector::sig_disconnected, this,
@@ -101,9 +107,14 @@ main_window::main_window(const QString &brand, const panel_registry *registry, Q
     reconnect_timer_->setSingleShot(true);
     reconnect_timer_->setTimerType(Qt::PreciseTimer);
     connect(reconnect_timer_, &QTimer::timeout, this, &main_window::reconnect_due);
+
+    observations_ = new observation_hub(system_clock(), this);
+    auto *trends = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_T), this);
+    connect(trends, &QShortcut::activated, this, &main_window::open_trends);
 }
 
 main_window::~main_window() {
+    delete trends_;
     poll_timer_->stop();
     reconnect_timer_->stop();
     // Both stop their threads and wait for them: the link first, so that no line reaches a
@@ -132,7 +143,9 @@ void main_window::apply_brand() {
     }
 }
 
-void main_window::set_port_lister(port_lister lister) { list_ports_ = std::move(lister); }
+void main_window::set_port_lister(port_lister lister) {
+    list_ports_ = std::move(lister);
+}
 
 QList<main_window::port_entry> main_window::system_ports() {
     QList<port_entry> ports;
@@ -143,7 +156,8 @@ QList<main_window::port_entry> main_window::system_ports() {
     return ports;
 }
 
-// ---- Configuration file and device table ---------------------------------------------------------
+// ---- Configuration file and device table
+// ---------------------------------------------------------
 
 void main_window::initialise_from_config() {
     QSettings settings(config_file, QSettings::IniFormat);
@@ -160,7 +174,8 @@ void main_window::initialise_from_config() {
 
     const int count = settings.value(QStringLiteral("device_count")).toInt();
     if (count > 0) {
-        ui->mini_usb_mode_checkbox->setChecked(settings.value(QStringLiteral("mini_usb_mode")).toBool());
+        ui->mini_usb_mode_checkbox->setChecked(
+            settings.value(QStringLiteral("mini_usb_mode")).toBool());
         for (int n = 0; n < count; ++n) {
             const QString name = settings.value(key("name_device_", n)).toString();
             const int can_id = settings.value(key("device_", n)).toInt();
@@ -300,22 +315,30 @@ void main_window::on_mini_usb_mode_checkbox_stateChanged(int arg1) {
     ui->delete_row_pb->setEnabled(!on);
 }
 
-// ---- Pages ----------------------------------------------------------------------------------------
+// ---- Pages
+// ----------------------------------------------------------------------------------------
 
 void main_window::show_page(int index) {
     ui->stackedWidget->setCurrentIndex(index);
     QPushButton *const buttons[] = {ui->main_menu_butt, ui->main_menu_butt_2, ui->main_menu_butt_3};
     for (int i = 0; i < 3; ++i) {
-        buttons[i]->setStyleSheet(QString::fromLatin1(i == index ? menu_selected_style
-                                                                 : menu_plain_style));
+        buttons[i]->setStyleSheet(
+            QString::fromLatin1(i == index ? menu_selected_style : menu_plain_style));
     }
 }
 
-void main_window::on_main_menu_butt_clicked() { show_page(0); }
-void main_window::on_main_menu_butt_2_clicked() { show_page(1); }
-void main_window::on_main_menu_butt_3_clicked() { show_page(2); }
+void main_window::on_main_menu_butt_clicked() {
+    show_page(0);
+}
+void main_window::on_main_menu_butt_2_clicked() {
+    show_page(1);
+}
+void main_window::on_main_menu_butt_3_clicked() {
+    show_page(2);
+}
 
-// ---- Serial port ----------------------------------------------------------------------------------
+// ---- Serial port
+// ----------------------------------------------------------------------------------
 
 void main_window::on_serial_refresh_button_clicked() {
     QComboBox *combo = ui->serial_combo_box;
@@ -389,7 +412,8 @@ void main_window::reconnect_due() {
     }
 }
 
-// ---- Polling cycle --------------------------------------------------------------------------------
+// ---- Polling cycle
+// --------------------------------------------------------------------------------
 
 void main_window::sl_tearing() {
     if (!devices_.isEmpty()) {
@@ -420,9 +444,24 @@ void main_window::sl_change_ui_widget(device *dev, int slot) {
     }
     containers_.at(slot)->layout()->addWidget(panel);
     connect(dev, &device::sig_refresh_state, panel, &device_panel::sl_refresh_state);
+    observations_->watch(*dev, panel);
 }
 
-// ---- TTL tester -----------------------------------------------------------------------------------
+trend_window *main_window::open_trends() {
+    if (!trends_) {
+        trends_ = new trend_window;
+        // The program ends with the main window, whether the trends are open or not.
+        trends_->setAttribute(Qt::WA_QuitOnClose, false);
+        connect(observations_, &observation_hub::sig_sample, trends_, &trend_window::take);
+    }
+    trends_->show();
+    trends_->raise();
+    trends_->activateWindow();
+    return trends_;
+}
+
+// ---- TTL tester
+// -----------------------------------------------------------------------------------
 
 void main_window::on_pushButton_clicked() {
     emit sig_send_command(QStringLiteral("FREQ_TTL ") +
@@ -430,8 +469,8 @@ void main_window::on_pushButton_clicked() {
 }
 
 void main_window::on_pushButton_2_clicked() {
-    emit sig_send_command(QStringLiteral("PW_TTL ") + QString::number(ui->pw_spin->value(), 'f', 0) +
-                          QStringLiteral("\r"));
+    emit sig_send_command(QStringLiteral("PW_TTL ") +
+                          QString::number(ui->pw_spin->value(), 'f', 0) + QStringLiteral("\r"));
 }
 
 void main_window::on_pushButton_3_clicked() {
@@ -446,7 +485,8 @@ void main_window::on_pushButton_3_clicked() {
     }
 }
 
-// ---- Events ---------------------------------------------------------------------------------------
+// ---- Events
+// ---------------------------------------------------------------------------------------
 
 bool main_window::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Wheel) {
