@@ -1,6 +1,5 @@
 #include "observation_hub.h"
 
-#include "device.h"
 #include "panel_base.h"
 
 #include <QDateTime>
@@ -17,7 +16,7 @@ observation_hub::observation_hub(wall_clock now, QObject *parent)
     qRegisterMetaType<device_sample>();
 }
 
-void observation_hub::watch(const device &dev, device_panel *panel) {
+void observation_hub::watch(int can_id, const QString &name, device_panel *panel) {
     auto *framed = qobject_cast<panel_base *>(panel);
     if (!framed) {
         return;
@@ -28,8 +27,8 @@ void observation_hub::watch(const device &dev, device_panel *panel) {
                    sources_.end());
     source s;
     s.panel = framed;
-    s.can_id = dev.can_id();
-    s.device = dev.name();
+    s.can_id = can_id;
+    s.device = name;
     s.model = framed->type_name();
     if (attached_) {
         attach(s);

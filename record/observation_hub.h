@@ -10,7 +10,6 @@
 
 #include <functional>
 
-class device;
 class device_panel;
 class panel_base;
 
@@ -30,9 +29,10 @@ class observation_hub : public QObject {
 public:
     explicit observation_hub(wall_clock now = system_clock(), QObject *parent = nullptr);
 
-    // Passes on what `panel`, just placed for `dev`, observes from now on (until it is deleted).
-    // Panels that are not built on the framework have nothing to tell and are skipped.
-    void watch(const device &dev, device_panel *panel);
+    // Passes on what `panel`, just placed for the device at `can_id` named `name`, observes from
+    // now on (until it is deleted). Panels that are not built on the framework have nothing to
+    // tell and are skipped.
+    void watch(int can_id, const QString &name, device_panel *panel);
 
     // The panels being watched (deleted ones drop out).
     int watched() const;

@@ -15,7 +15,7 @@ QString trend_series::chart_title() const {
 }
 
 QString trend_series::label() const {
-    QString name = QStringLiteral("%1 (%2)").arg(device).arg(can_id);
+    QString name = device.isEmpty() ? QString::number(can_id) : device;
     if (kind == panel_observation::setpoint) {
         name += QLatin1Char(' ') + QCoreApplication::translate("trend_store", "set-point");
     }

@@ -23,7 +23,8 @@ struct trend_series {
     // The chart the series is drawn in: one per quantity and unit ("Current, mA"); a device's
     // set-points share the chart of its readings.
     QString chart_title() const;
-    // "Bench 3 (3)" or "Bench 3 (3) set-point": the line's name in the chart's legend.
+    // "Bench 3" or "Bench 3 set-point" (the CAN ID for a device without a name): the line's
+    // name in an exported chart's legend.
     QString label() const;
     // Whether a sample belongs to this series.
     bool holds(const device_sample &sample) const;

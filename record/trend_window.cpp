@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSplitter>
@@ -84,11 +85,21 @@ protected:
 };
 
 QString series_entry(const trend_series &s) {
-    QString text = s.chart_title();
-    if (s.kind == panel_observation::setpoint) {
-        text += QLatin1Char(' ') + trend_window::tr("set-point");
-    }
-    return text;
+    return s.kind == panel_observation::setpoint
+               ? s.quantity + QLatin1Char(' ') + trend_window::tr("set-point")
+               : s.chart_title();
+}
+
+// A short stretch of the series' line: the list of series is the charts' legend.
+QIcon line_icon(const QPen &pen) {
+    QPixmap picture(28, 12);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    QPen wide = pen;
+    wide.setWidth(2);
+    painter.setPen(wide);
+    painter.drawLine(1, 6, 27, 6);
+    return QIcon(picture);
 }
 
 QString device_key(const trend_series &s) {
@@ -134,7 +145,7 @@ trend_window::trend_window(QWidget *parent) : QWidget(parent, Qt::Window) {
 
     tree_ = new QTreeWidget;
     tree_->setHeaderLabel(tr("Devices and readings"));
-    tree_->setMinimumWidth(220);
+    tree_->setMinimumWidth(240);
 
     charts_widget_ = new QWidget;
     charts_widget_->setAutoFillBackground(true);
@@ -145,13 +156,14 @@ trend_window::trend_window(QWidget *parent) : QWidget(parent, Qt::Window) {
     charts_layout_->addStretch(1);
     scroll_ = new QScrollArea;
     scroll_->setWidgetResizable(true);
+    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll_->setWidget(charts_widget_);
 
     auto *split = new QSplitter;
     split->addWidget(tree_);
     split->addWidget(scroll_);
     split->setStretchFactor(1, 1);
-    split->setSizes({240, 860});
+    split->setSizes({300, 800});
 
     status_ = new QLabel;
     status_->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -243,7 +255,7 @@ int trend_window::chart_for(const trend_series &series) {
     font.setBold(true);
     heading.setFont(font);
     plot->setTitle(heading);
-    plot->setMinimumHeight(220);
+    plot->setMinimumHeight(200);
     plot->setCanvasBackground(Qt::white);
     plot->setAxisScaleDraw(QwtPlot::xBottom, new time_scale_draw);
     plot->setAxisScaleEngine(QwtPlot::xBottom, new QwtDateScaleEngine(Qt::LocalTime));
@@ -251,9 +263,6 @@ int trend_window::chart_for(const trend_series &series) {
     // Wide enough for the longest value labels, so the charts' time axes line up.
     plot->axisWidget(QwtPlot::yLeft)->setMinBorderDist(0, 0);
     plot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(60);
-    auto *legend = new QwtLegend;
-    legend->setMinimumWidth(170);
-    plot->insertLegend(legend, QwtPlot::RightLegend);
     auto *grid = new QwtPlotGrid;
     grid->setMajorPen(QColor(225, 225, 225), 0, Qt::SolidLine);
     grid->attach(plot);
@@ -291,10 +300,8 @@ void trend_window::add_series_view(int index) {
     QTreeWidgetItem *device_item = device_items_.value(key);
     if (!device_item) {
         device_item = new QTreeWidgetItem(tree_);
-        device_item->setText(
-            0, s.model.isEmpty()
-                   ? QStringLiteral("%1 (%2)").arg(s.device).arg(s.can_id)
-                   : QStringLiteral("%1 (%2), %3").arg(s.device).arg(s.can_id).arg(s.model));
+        device_item->setText(0, s.device.isEmpty() ? tr("CAN ID %1").arg(s.can_id) : s.device);
+        device_item->setToolTip(0, tr("CAN ID %1, %2").arg(s.can_id).arg(s.model));
         device_item->setFlags(device_item->flags() | Qt::ItemIsUserCheckable |
                               Qt::ItemIsAutoTristate);
         device_item->setExpanded(true);
@@ -305,9 +312,12 @@ void trend_window::add_series_view(int index) {
     item->setText(0, series_entry(s));
     item->setData(0, Qt::UserRole, index);
     item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-    item->setForeground(0, colour_of(key));
-    // Readings and set-points on show at first; states (emission, alarms, modes) on request.
-    item->setCheckState(0, s.kind == panel_observation::state ? Qt::Unchecked : Qt::Checked);
+    item->setIcon(0, line_icon(pen));
+    // Readings and their set-points on show at first; states (emission, alarms, modes) and their
+    // set-points, which have no unit, on request.
+    const bool at_first = s.kind == panel_observation::reading ||
+                          (s.kind == panel_observation::setpoint && !s.unit.isEmpty());
+    item->setCheckState(0, at_first ? Qt::Checked : Qt::Unchecked);
     series_items_.push_back(item);
     device_item->setExpanded(true);
 }
@@ -423,7 +433,6 @@ void trend_window::redraw() {
             const bool shown = index < int(store_.series().size()) &&
                                series_items_[std::size_t(index)]->checkState(0) == Qt::Checked;
             curve->setVisible(shown);
-            curve->setItemAttribute(QwtPlotItem::Legend, shown);
             if (!shown) {
                 continue;
             }
@@ -576,8 +585,20 @@ void trend_window::take_loaded() {
 }
 
 bool trend_window::export_png(const QString &path) {
+    // On screen the list of series is the legend; the picture gets one under each chart.
+    for (const auto &c : charts_) {
+        for (const auto &[index, curve] : c->curves) {
+            curve->setItemAttribute(QwtPlotItem::Legend, curve->isVisible());
+        }
+        c->plot->insertLegend(new QwtLegend, QwtPlot::BottomLegend);
+    }
     redraw();
-    return charts_widget_->grab().save(path, "PNG");
+    const bool saved = charts_widget_->grab().save(path, "PNG");
+    for (const auto &c : charts_) {
+        c->plot->insertLegend(nullptr);
+    }
+    redraw();
+    return saved;
 }
 
 bool trend_window::export_csv(const QString &path) const {
