@@ -3,6 +3,7 @@
 #include "record_format.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QEvent>
@@ -255,7 +256,8 @@ int trend_window::chart_for(const trend_series &series) {
     font.setBold(true);
     heading.setFont(font);
     plot->setTitle(heading);
-    plot->setMinimumHeight(200);
+    // Set, not hinted: a time axis asks for room for every label it could show.
+    plot->setMinimumSize(300, 200);
     plot->setCanvasBackground(Qt::white);
     plot->setAxisScaleDraw(QwtPlot::xBottom, new time_scale_draw);
     plot->setAxisScaleEngine(QwtPlot::xBottom, new QwtDateScaleEngine(Qt::LocalTime));
@@ -593,6 +595,8 @@ bool trend_window::export_png(const QString &path) {
         c->plot->insertLegend(new QwtLegend, QwtPlot::BottomLegend);
     }
     redraw();
+    // Charts shown or hidden by the redraw take their place before the picture is taken.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     const bool saved = charts_widget_->grab().save(path, "PNG");
     for (const auto &c : charts_) {
         c->plot->insertLegend(nullptr);

@@ -8,13 +8,16 @@
 // and emission switched on), and once the devices have had time to ramp and settle the trend
 // window is saved too.
 //
-//     lumivox_demo_shot <picture.png> [seconds to wait at most, 20 by default] [trends.png]
+// Given a directory as well, everything is recorded there as `lumivox --record` does.
+//
+//     lumivox_demo_shot <picture.png> [seconds, 20 by default] [trends.png] [recording directory]
 //
 // Run it with QT_QPA_PLATFORM=offscreen. Exit code 0 when the picture was saved.
 #include "main_window.h"
 #include "message_route.h"
 #include "panel_base.h"
 #include "program.h"
+#include "recorder.h"
 #include "trend_window.h"
 
 #include <QAbstractButton>
@@ -35,9 +38,9 @@ bool every_type_known(const main_window &window) {
                        [](const device *dev) { return dev->type_id() >= 0; });
 }
 
-// What an operator does to make the readings move: every set-point a fifth above what the device
-// reported (the main one, usually still zero, to 40 % of its range), each confirmed, then the TEC
-// and the emission on.
+// What an operator does to make the readings move: the main set-point to 40 % of its range, a
+// temperature set-point a few degrees above what the device reported, each confirmed, then the
+// TEC and the emission on.
 void operate(const main_window &window) {
     set_message_answerer([](const message_request &) { return QMessageBox::Yes; });
     for (const device *dev : window.devices()) {
@@ -48,10 +51,12 @@ void operate(const main_window &window) {
         bool main_setpoint = true;
         for (QWidget *widget : panel->setpoint_widgets()) {
             auto *spin = qobject_cast<QDoubleSpinBox *>(widget);
-            if (spin && (spin->value() != 0 || main_setpoint)) {
-                spin->setValue(spin->value() != 0
-                                   ? spin->value() * 1.2
-                                   : spin->minimum() + 0.4 * (spin->maximum() - spin->minimum()));
+            if (spin && main_setpoint) {
+                spin->setValue(spin->minimum() + 0.4 * (spin->maximum() - spin->minimum()));
+                QTest::keyClick(spin, Qt::Key_Return);
+            } else if (spin && spin->value() >= 10 && spin->value() <= 50) {
+                // A temperature as the device reported it: a few degrees warmer.
+                spin->setValue(spin->value() + 4);
                 QTest::keyClick(spin, Qt::Key_Return);
             }
             main_setpoint = false;
@@ -72,12 +77,15 @@ int main(int argc, char *argv[]) {
     QApplication app(argc, argv);
     const QStringList args = app.arguments();
     if (args.size() < 2) {
-        std::fputs("usage: lumivox_demo_shot <picture.png> [seconds] [trends.png]\n", stderr);
+        std::fputs(
+            "usage: lumivox_demo_shot <picture.png> [seconds] [trends.png] [recording directory]\n",
+            stderr);
         return 2;
     }
     const QString picture = args.at(1);
     const int limit_ms = (args.size() > 2 ? args.at(2).toInt() : 20) * 1000;
     const QString trend_picture = args.value(3);
+    const QString recording = args.value(4);
     // Long enough for the drive to ramp and the temperatures to settle on the new set-points.
     constexpr int operate_ms = 15000;
     // After the last type is known, the panels' first sync and a few poll cycles fill the values.
@@ -88,6 +96,10 @@ int main(int argc, char *argv[]) {
     main_window window;
     window.initialise_from_config();
     window.resize(window.width(), 900);  // room for a few panels below the header
+    recorder rec;
+    if (!recording.isEmpty()) {
+        record_window(window, rec, recording);
+    }
     window.show();
     trend_window *trends = trend_picture.isEmpty() ? nullptr : window.open_trends();
 

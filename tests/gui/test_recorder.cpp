@@ -108,7 +108,9 @@ private slots:
         hub.watch(7, name, panel.get());
         connect(&hub, &observation_hub::sig_sample, &rec, &recorder::take);
         rec.start(dir.path());
+        QVERIFY(!panel->readings().isEmpty());
         for (const reading_spec &reading : panel->readings()) {
+            QVERIFY(!reading.quantity.isEmpty());
             panel->sl_parsed_data_received(reading.code, -250);
         }
         rec.stop();
