@@ -39,8 +39,8 @@ bool every_type_known(const main_window &window) {
 }
 
 // What an operator does to make the readings move: the main set-point to 40 % of its range, a
-// temperature set-point a few degrees above what the device reported, each confirmed, then the
-// TEC and the emission on.
+// temperature set-point four degrees from what its box shows, each confirmed, then the TEC and
+// the emission on.
 void operate(const main_window &window) {
     set_message_answerer([](const message_request &) { return QMessageBox::Yes; });
     for (const device *dev : window.devices()) {
@@ -55,7 +55,7 @@ void operate(const main_window &window) {
                 spin->setValue(spin->minimum() + 0.4 * (spin->maximum() - spin->minimum()));
                 QTest::keyClick(spin, Qt::Key_Return);
             } else if (spin && spin->value() >= 10 && spin->value() <= 50) {
-                // A temperature as the device reported it: a few degrees warmer.
+                // A temperature set-point: four degrees above what the box shows.
                 spin->setValue(spin->value() + 4);
                 QTest::keyClick(spin, Qt::Key_Return);
             }

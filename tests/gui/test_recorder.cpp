@@ -290,6 +290,42 @@ private slots:
         QCOMPARE(series_of(again), series);
     }
 
+    // Ctrl+T in the main window opens the live trend window, which follows what placed panels
+    // report from then on, and keeps it when closed and opened again.
+    void shortcut_opens_live_trends() {
+        scratch_dir scratch;
+        auto window = loaded_window();
+        window->show();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        auto panel = panel_test::make_panel(panel_test::panel_types().first());
+        window->observations()->watch(5, QStringLiteral("Pump"), panel.get());
+        const auto shown_trends = [] {
+            QList<trend_window *> found;
+            for (QWidget *top : QApplication::topLevelWidgets()) {
+                auto *trends = qobject_cast<trend_window *>(top);
+                if (trends && trends->isVisible()) {
+                    found.append(trends);
+                }
+            }
+            return found;
+        };
+        QVERIFY(shown_trends().isEmpty());
+        QTest::keyClick(window.get(), Qt::Key_T, Qt::ControlModifier);
+        QCOMPARE(shown_trends().size(), 1);
+        trend_window *trends = shown_trends().first();
+        QVERIFY(trends->is_live());
+        const reading_spec reading = panel->readings().first();
+        panel->sl_parsed_data_received(reading.code, 120);
+        trends->close();
+        panel->sl_parsed_data_received(reading.code, 130);
+        QCOMPARE(window->open_trends(), trends);
+        QCOMPARE(series_of(*trends), QStringList{QStringLiteral("Pump/%1/%2/reading: 2, %3..%4")
+                                                     .arg(reading.quantity, reading.unit)
+                                                     .arg(120 / reading.divisor)
+                                                     .arg(130 / reading.divisor)});
+    }
+
     // The command line, and the recording directory remembered between runs.
     void command_line_data() {
         QTest::addColumn<QStringList>("arguments");
