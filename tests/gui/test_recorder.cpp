@@ -135,7 +135,7 @@ private slots:
             QCOMPARE(line->at(1), QByteArray("7"));
             QCOMPARE(QString::fromUtf8(line->at(2)), name);
             QCOMPARE(QString::fromUtf8(line->at(3)), panel->type_name());
-            QCOMPARE(line->at(6).toDouble(), -250 / reading.divisor);
+            QCOMPARE(line->at(6).toDouble(), (-250 - reading.offset) / reading.divisor);
             QCOMPARE(QString::fromUtf8(line->at(7)), reading.unit);
         }
     }
