@@ -138,8 +138,8 @@ void ps_driver_base::confirm_frequency() {
     } else {
         frequency_text_ = QString::number(value, 'f', 0);
     }
-    // The devices take the rate as their own tools form it, in single precision: 16.7 MHz goes
-    // out as 16700001 Hz.
+    // The product is formed in single precision before it is truncated, so 16.7 MHz goes out as
+    // 16700001 Hz; this is deliberate and kept.
     const float hz = static_cast<float>(value) * factor;
     queue_command(frequency_code, static_cast<long>(std::trunc(hz)));
 }
@@ -271,8 +271,8 @@ bool ps_driver_base::load_setpoints() {
     if (frequency_ == -1.0) {
         return false;
     }
-    // The "MHz" range is filled from the rate over 100 000: 1 MHz shows as 10.0 (and anything
-    // from 3 MHz up as the range's top). The devices' own tools do the same; operators read it so.
+    // The "MHz" range is filled with the rate over 100 000, not over 1 000 000: 1 MHz shows as 10.0
+    // and anything from 3 MHz up (4 MHz on the module) as the range's top. Deliberate, and kept.
     if (frequency_ < 1000) {
         on_cb_freq_range_activated(hz_range);
         widget_update::set_value(w_.dsb_freq, frequency_);
