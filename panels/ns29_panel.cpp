@@ -11,9 +11,9 @@ ns29_panel::ns29_panel(QWidget *parent)
     setup_driver(current_widgets_of(ui.get()),
                  {sync_mode_code + 128, sync_delay_code + 128, pulse_delay_code + 128},
                  current_driver_parameters());
-    bind_reading({sync_delay_code + 128, tr("Sync delay"), tr("ns"), 10, 1}, &sync_delay_,
+    bind_reading({sync_delay_code + 128, tr("Sync delay"), tr("ns"), 10, 1, 2}, &sync_delay_,
                  ui->l_sync_delay);
-    bind_reading({pulse_delay_code + 128, tr("Pulse delay"), tr("ns"), 10, 1}, &pulse_delay_,
+    bind_reading({pulse_delay_code + 128, tr("Pulse delay"), tr("ns"), 10, 1, 2}, &pulse_delay_,
                  ui->l_pulse_delay);
     bind_state(sync_mode_code + 128, &sync_mode_, tr("Sync mode"),
                [](int mode) { return sync_mode_names().value(mode, QString::number(mode)); });

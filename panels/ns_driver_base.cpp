@@ -75,19 +75,18 @@ void ns_driver_base::setup_driver(const widgets &form, const QVector<int> &extra
                   {emission_code, emission_companion_code});
     bind_tec(tec_code, tec_code + 128, w_.chb_tec);
     bind_reading(
-        {drive_code + 128, m_.drive_quantity, m_.drive_unit, m_.drive_scale, m_.drive_decimals},
+        {drive_code + 128, m_.drive_quantity, m_.drive_unit, m_.drive_scale, m_.drive_decimals, 3},
         &drive_, w_.l_drive);
-    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1}, &temperature_,
+    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3}, &temperature_,
                  w_.l_temp);
     bind_reading({rate_code + 128, tr("Frequency"), tr("Hz"), 1, 0, 8}, &rate_);
     reserve_text(w_.l_freq, frequency_text(888888));
-    // The rate and the duration bound each other: their limit labels change with the readings.
-    for (QLabel *label : {w_.l_freq_min, w_.l_freq_max}) {
-        reserve_text(label, QStringLiteral("88888888"));
-    }
-    for (QLabel *label : {w_.l_dura_min, w_.l_dura_max}) {
-        reserve_text(label, QStringLiteral("88888.8"));
-    }
+    // The rate and the duration bound each other: their maximum labels change with the readings
+    // (the minimum ones with the range).
+    reserve_text(w_.l_freq_min, QStringLiteral("0.1"));
+    reserve_text(w_.l_freq_max, QStringLiteral("88888888"));
+    reserve_text(w_.l_dura_min, QStringLiteral("88.8"));
+    reserve_text(w_.l_dura_max, QStringLiteral("88888.8"));
     bind_reading({duration_code + 128, tr("Pulse duration"), tr("ns"), 10, 1}, &duration_,
                  w_.l_dura);
     bind_reading({gated_code + 128, tr("Gated count"), {}, 1, 0}, &gated_, w_.l_gated_count);
@@ -121,7 +120,8 @@ void ns_driver_base::setup_driver(const widgets &form, const QVector<int> &extra
 
 void ns_driver_base::setup_bias(const bias_widgets &bias) {
     bias_ = bias;
-    bind_reading({bias.report_code, tr("Bias"), tr("mA"), 10, 1}, &bias_reading_, bias.value_label);
+    bind_reading({bias.report_code, tr("Bias"), tr("mA"), 10, 1, 3}, &bias_reading_,
+                 bias.value_label);
     bind_setpoint(bias.spin, bias.write_code, 10);
 }
 

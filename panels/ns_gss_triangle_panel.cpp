@@ -29,7 +29,7 @@ ns_gss_triangle_panel::ns_gss_triangle_panel(QWidget *parent)
     // The factor is shown with a volt sign after it, as the drivers' own panels show it.
     bind_reading({rise_code + 128, tr("Triangle rise factor"), {}, 100, 2}, &rise_);
     reserve_text(ui->l_triangle_rise, QStringLiteral("88.88 V"));
-    bind_reading({pulse_delay_code + 128, tr("Pulse delay"), tr("ns"), 10, 1}, &pulse_delay_,
+    bind_reading({pulse_delay_code + 128, tr("Pulse delay"), tr("ns"), 10, 1, 3}, &pulse_delay_,
                  ui->l_pulse_delay);
     bind_setpoint(ui->dsb_triangle_rise, rise_code, 100);
     bind_setpoint(ui->dsb_pulse_delay, pulse_delay_code, 10);

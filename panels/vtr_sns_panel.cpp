@@ -28,17 +28,17 @@ vtr_sns_panel::vtr_sns_panel(QWidget *parent) : panel_base(parent), ui(new Ui::v
     bind_emission(emission_code + 128, ui->l_emission_state,
                   {ui->pb_on_off, ui->start_stop_button_alt}, {emission_code});
     bind_tec(tec_code, tec_code + 128, ui->chb_tec);
-    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1}, &temperature_,
+    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3}, &temperature_,
                  ui->l_temp);
     bind_reading({rate_code + 128, tr("Frequency"), tr("Hz"), rate_scale, 0, 7}, &rate_,
                  ui->l_freq);
-    bind_reading({delay_bias_code + 128, tr("Delay bias"), tr("t"), 10, 1}, &delay_bias_,
+    bind_reading({delay_bias_code + 128, tr("Delay bias"), tr("t"), 10, 1, 3}, &delay_bias_,
                  ui->l_delay_bias);
-    bind_reading({width_bias_code + 128, tr("Width bias"), tr("t"), 10, 1}, &width_bias_,
+    bind_reading({width_bias_code + 128, tr("Width bias"), tr("t"), 10, 1, 3}, &width_bias_,
                  ui->l_width_bias);
     bind_reading({bias_voltage_code + 128, tr("Voltage bias"), tr("V"), 1000, 3, 1}, &bias_voltage_,
                  ui->l_volt_bias);
-    bind_reading({width_sns_code + 128, tr("Width SNS"), tr("t"), 100, 2}, &width_sns_,
+    bind_reading({width_sns_code + 128, tr("Width SNS"), tr("t"), 100, 2, 2}, &width_sns_,
                  ui->l_width_sns);
     bind_reading({sns_voltage_code + 128, tr("Voltage SNS"), tr("V"), 100, 2, 1}, &sns_voltage_,
                  ui->l_volt);
