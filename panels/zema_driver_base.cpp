@@ -86,6 +86,8 @@ void zema_driver_base::on_on_off_button_clicked(bool checked) {
 void zema_driver_base::on_mode_activated(int index) {
     mark_parameters_unknown();
     queue_command(mode_code, index);
+    // The configuration closes at once, not with the next report.
+    refresh();
 }
 
 void zema_driver_base::on_step_size_combo_activated(int /*index*/) {
