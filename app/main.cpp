@@ -6,6 +6,7 @@
 
 int main(int argc, char *argv[]) {
     QApplication app(argc, argv);
+    read_command_line(app);
     QTranslator translator;
     prepare_program(app, translator);
 

@@ -2,9 +2,11 @@
 
 #include "panel_registry.h"
 #include "panels.h"
+#include "serial_connector.h"
 #include "translation.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QLocale>
 #include <QSocketNotifier>
 
@@ -40,8 +42,10 @@ void quit_on_signal(QObject *parent) {
     action.sa_handler = on_quit_signal;
     sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
+    // SIGHUP too: a closed terminal or an ended session must not lose the device table.
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        sigaction(number, &action, nullptr);
+    }
 }
 
 void prepare_program(QApplication &app, QTranslator &translator) {
@@ -49,4 +53,18 @@ void prepare_program(QApplication &app, QTranslator &translator) {
     // Every device created from now on finds its panel class here.
     register_panels(panel_registry::instance());
     quit_on_signal(&app);
+}
+
+void read_command_line(const QApplication &app) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Lumivox: laser drivers on a CAN bus."));
+    parser.addHelpOption();
+    const QCommandLineOption log_wire(
+        QStringLiteral("log-wire"),
+        QStringLiteral("Write every frame sent and every line received to the debug log."));
+    parser.addOption(log_wire);
+    parser.process(app);
+    if (parser.isSet(log_wire)) {
+        serial_connector::enable_wire_log();
+    }
 }

@@ -3,20 +3,62 @@
 #include "device_panel.h"
 #include "frame_codec.h"
 #include "panel_registry.h"
+#include "serial_connector.h"
 
 #include <QDebug>
 #include <QFrame>
 #include <QLayout>
 
+#include <mutex>
+
+// The device as the link's thread sees it. The lock is held while a line is tested and passed on,
+// and by the destructor while it withdraws the device, so the link never touches a device being
+// deleted.
+struct device::line_gate {
+    std::mutex lock;
+    device *owner = nullptr;
+};
+
 device::device(QWidget *host, const panel_registry *registry)
-    : host_(host), registry_(registry ? registry : &panel_registry::instance()) {
+    : host_(host),
+      registry_(registry ? registry : &panel_registry::instance()),
+      gate_(std::make_shared<line_gate>()) {
+    gate_->owner = this;
+    connect(this, &device::sig_line_taken, this, &device::sl_d_data_received, Qt::QueuedConnection);
     moveToThread(worker_.thread());
 }
 
 device::~device() {
+    {
+        std::lock_guard<std::mutex> withdrawing(gate_->lock);
+        gate_->owner = nullptr;
+    }
+    for (const QMetaObject::Connection &c : qAsConst(listening_)) {
+        disconnect(c);
+    }
     // The panel belongs to the GUI thread, as does the caller.
     delete current_panel_.data();
     worker_.stop();
+}
+
+void device::listen_to(serial_connector *link) {
+    // A direct connection: the filter runs in the link's thread as the line is emitted. It holds
+    // the gate, not the device, so it outlives a deleted device harmlessly.
+    const std::shared_ptr<line_gate> gate = gate_;
+    listening_.append(connect(
+        link, &serial_connector::sig_parse_received_message, link,
+        [gate](const QString &line) {
+            std::lock_guard<std::mutex> passing(gate->lock);
+            if (gate->owner && gate->owner->takes(frame_codec::parse(line))) {
+                emit gate->owner->sig_line_taken(line);
+            }
+        },
+        Qt::DirectConnection));
+}
+
+bool device::takes(const frame_codec::parsed_line &frame) const {
+    return frame.is_frame &&
+           frame_codec::accepts(frame.sender, can_id_.load(), accept_any_sender_.load());
 }
 
 void device::tick() {
@@ -56,10 +98,14 @@ void device::rebuild_panel() {
     panel->set_can_id_source(&can_id_);
     panel->set_display_name(name_);
 
-    connect(this, &device::sig_parsed_data_received, panel,
-            &device_panel::sl_parsed_data_received);
-    connect(panel, &device_panel::sig_w_send_command, this, &device::sl_w_send_command);
-    connect(panel, &device_panel::send_emission, this, &device::upd_emission_state);
+    connect(this, &device::sig_parsed_data_received, panel, &device_panel::sl_parsed_data_received);
+    // Direct: the panel's frame is composed in the GUI thread, where the panel sends it, and goes
+    // to the serial link in one queued hop instead of two; the emission state is an atomic store.
+    // Neither touches anything of the device's thread.
+    connect(panel, &device_panel::sig_w_send_command, this, &device::sl_w_send_command,
+            Qt::DirectConnection);
+    connect(panel, &device_panel::send_emission, this, &device::upd_emission_state,
+            Qt::DirectConnection);
     emit sig_change_ui_widget(this, slot_);
 
     if (panel->layout()) {
@@ -73,8 +119,7 @@ void device::rebuild_panel() {
 
 void device::sl_d_data_received(QString line) {
     const frame_codec::parsed_line frame = frame_codec::parse(line);
-    if (!frame.is_frame ||
-        !frame_codec::accepts(frame.sender, can_id_.load(), accept_any_sender_.load())) {
+    if (!takes(frame)) {
         return;
     }
     no_answer_counter_.store(0);

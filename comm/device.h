@@ -1,23 +1,27 @@
 #pragma once
 
 #include "can_command_factory.h"
+#include "frame_codec.h"
 #include "worker_thread.h"
 
 #include <QPointer>
 #include <QString>
 
 #include <atomic>
+#include <memory>
 
 class QWidget;
 class device_panel;
 class panel_registry;
+class serial_connector;
 
 // One CAN address of the device table. Learns the device type, builds the panel that belongs to it,
 // turns the panel's (code, value) commands into frames and the answers for its address back into
 // (code, value) pairs, keeps the emission state for the main window and notices silence.
 //
-// The object lives in a thread of its own (parsing and composing run there); tick() and the panel
-// rebuild run in the GUI thread. Fields read on one side and written on the other are atomic.
+// The object lives in a thread of its own, where received answers are parsed; tick(), the panel
+// rebuild and the composing of the panel's frames run in the GUI thread, and the filter of
+// listen_to() in the serial link's. Fields read on one side and written on the other are atomic.
 class device : public can_command_factory {
     Q_OBJECT
 public:
@@ -36,6 +40,12 @@ public:
 
     // One step of the polling cycle for this device (GUI thread).
     void tick();
+
+    // Takes the lines `link` receives. Each line is looked at in the link's thread and passed into
+    // this device's thread only when it is a frame from a sender this device takes (the test that
+    // sl_d_data_received() makes again), so an answer wakes the thread of the device it is for and
+    // no other. The device may be deleted at any time, lines arriving or not.
+    void listen_to(serial_connector *link);
 
     int type_id() const { return type_id_.load(); }
     int previous_type_id() const { return previous_type_id_; }
@@ -60,6 +70,8 @@ signals:
     void sig_refresh_state();
     void sig_send_command(QString frame);
     void sig_parsed_data_received(int code, long value);
+    // A line that listen_to() lets through, on its way into the device's thread.
+    void sig_line_taken(QString line);
 
 public slots:
     void sl_d_data_received(QString line);
@@ -67,7 +79,12 @@ public slots:
     void upd_emission_state(int state);
 
 private:
+    // What the filter of listen_to() holds of the device, shared with the link's thread.
+    struct line_gate;
+
     void rebuild_panel();
+    // Whether a received line is an answer for this device (any thread).
+    bool takes(const frame_codec::parsed_line &frame) const;
 
     std::atomic<int> type_id_{-1};
     int previous_type_id_ = -1;  // GUI thread only
@@ -81,5 +98,7 @@ private:
     QWidget *host_ = nullptr;
     QPointer<device_panel> current_panel_;
     const panel_registry *registry_ = nullptr;
+    std::shared_ptr<line_gate> gate_;
+    QList<QMetaObject::Connection> listening_;  // GUI thread only
     worker_thread worker_{QStringLiteral("device")};
 };

@@ -48,6 +48,22 @@ QString panel_base::usb_can_id_hint() {
         "mode\" is set in Settings tab.");
 }
 
+QStringList panel_base::driver_alarm_texts() {
+    return {
+        QStringLiteral("flag_Rebooted"),
+        QStringLiteral("flag_ALARM_INTERLOCK"),
+        QStringLiteral("flag_Overtemp"),
+        QStringLiteral("flag_OverCurrent"),
+        QStringLiteral("flag_UnderVoltage_IN"),
+        QStringLiteral("flag_OverVoltage_IN"),
+        QStringLiteral("flag_UnderVoltage_OUT"),
+        QStringLiteral("flag_OverCurrent_IND"),
+        tr("Output voltage is higher than 80% of input voltage, \nSOLUTION: increase the input "
+           "voltage"),
+        tr("Output power is close to MAX"),
+    };
+}
+
 panel_base::~panel_base() {
     delete dialog_.data();
 }

@@ -81,6 +81,9 @@ public:
     // The note shown in the configuration dialog unless the panel gives its own: how to reach a
     // device for changing its CAN id.
     static QString usb_can_id_hint();
+    // Names of alarm bits 0 to 9 of the drivers' common alarm word (the raw flag names are shown
+    // as the devices name them).
+    static QStringList driver_alarm_texts();
 
 signals:
     // After every report the panel takes and every set-point it sends (see panel_observation).

@@ -303,11 +303,16 @@ private slots:
         host.resize(900, 600);
         host.show();
         QVERIFY(QTest::qWaitForWindowExposed(&host));
-        // 1: a valid mode, index or switch state for every panel.
-        const auto report_all = [&panel] {
+        // 1: a valid mode, index or switch state for every panel. Each code once, as a device
+        // reports it: a polled code that also reports a parameter keeps the parameter's value.
+        QSet<int> parameter_reports;
+        for (const parameter_record &record : panel->parameters()) {
+            parameter_reports.insert(record.code + 128);
+        }
+        const auto report_all = [&panel, &parameter_reports] {
             report_parameters(*panel, raw_value);
             for (int code : panel->plan().read_codes) {
-                if (code != poll_plan::silent) {
+                if (code != poll_plan::silent && !parameter_reports.contains(code)) {
                     panel->sl_parsed_data_received(code, 1);
                 }
             }

@@ -4,6 +4,8 @@
 #include "device_panel.h"
 #include "frame_codec.h"
 #include "panel_registry.h"
+#include "pty_pair.h"
+#include "serial_connector.h"
 
 #include <QFrame>
 #include <QSignalSpy>
@@ -243,13 +245,31 @@ private slots:
         QTest::newRow("address 0xFA") << 0xFA << false << true;
     }
     void sender_filter() {
+        // Through a serial link, as in the program: the link's thread passes a line into the
+        // device's thread only when the device takes its sender.
         QFETCH(int, can_id);
         QFETCH(bool, accept_any);
+        QFETCH(bool, takes_foreign);
+        pty_pair pty;
+        serial_connector link;
         device dev(&host, &registry);
         dev.set_can_id(can_id);
         dev.set_accept_any_sender(accept_any);
-        deliver(dev, answer(9, 0xD0, 14));
-        QTEST(dev.type_id() == 14, "takes_foreign");
+        dev.listen_to(&link);
+        signal_log offered(&dev, &device::sig_line_taken);
+        signal_log lines(&link, &serial_connector::sig_parse_received_message);
+        signal_log connected(&link, &serial_connector::sig_connected);
+        const QString path = pty.slave_path();
+        post_to(&link, [&link, path] { link.sl_init_connection(path); });
+        QVERIFY(connected.wait_for(1));
+
+        QVERIFY(pty.write(answer(9, 0xD0, 14).toLatin1() + "\r"));
+        QVERIFY(lines.wait_for(1));
+        QTEST(offered.count() == 1, "takes_foreign");
+        QTRY_COMPARE(dev.type_id(), takes_foreign ? 14 : -1);
+        QVERIFY(pty.write(answer(can_id, 0xD0, 15).toLatin1() + "\r"));
+        QVERIFY(offered.wait_for(takes_foreign ? 2 : 1));
+        QTRY_COMPARE(dev.type_id(), 15);
     }
 
     void answers_and_ticks_run_concurrently() {

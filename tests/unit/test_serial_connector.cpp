@@ -10,6 +10,7 @@
 
 #include <pthread.h>
 #include <time.h>
+#include <mutex>
 
 namespace {
 
@@ -32,6 +33,38 @@ double thread_cpu_ms(serial_connector &link) {
     }
     return ts.tv_sec * 1e3 + ts.tv_nsec / 1e6;
 }
+
+// Records the debug messages of the whole process (the link logs from its own thread) while it
+// exists, as "category: text"; then puts back the previous handler and the default logging rules.
+class message_capture {
+public:
+    message_capture() { previous_ = qInstallMessageHandler(&message_capture::record); }
+    ~message_capture() {
+        qInstallMessageHandler(previous_);
+        QLoggingCategory::setFilterRules(QString());
+        std::lock_guard<std::mutex> hold(lock());
+        messages().clear();
+    }
+    static QStringList taken() {
+        std::lock_guard<std::mutex> hold(lock());
+        return messages();
+    }
+
+private:
+    static void record(QtMsgType, const QMessageLogContext &context, const QString &text) {
+        std::lock_guard<std::mutex> hold(lock());
+        messages() << QLatin1String(context.category) + QStringLiteral(": ") + text;
+    }
+    static std::mutex &lock() {
+        static std::mutex m;
+        return m;
+    }
+    static QStringList &messages() {
+        static QStringList m;
+        return m;
+    }
+    QtMessageHandler previous_ = nullptr;
+};
 
 // How many descriptors of this process refer to `path`.
 int descriptors_open_on(const QString &path) {
@@ -160,6 +193,52 @@ private slots:
         QVERIFY(l.pty.write("tail\r"));
         QTRY_COMPARE(l.lines.count(), 1);
         QCOMPARE(l.received(), QStringList{QString::fromLatin1(head + "tail")});
+    }
+
+    void frames_are_logged_only_when_switched_on_data() {
+        QTest::addColumn<QString>("rules");
+        QTest::addColumn<bool>("option");  // the program's --log-wire
+        QTest::addColumn<bool>("logged");
+        QTest::newRow("off by default") << QString() << false << false;
+        QTest::newRow("logging rule") << QStringLiteral("lumivox.wire.debug=true") << false << true;
+        QTest::newRow("program option") << QString() << true << true;
+        QTest::newRow("every debug line on") << QStringLiteral("*.debug=true") << false << true;
+    }
+    void frames_are_logged_only_when_switched_on() {
+        QFETCH(QString, rules);
+        QFETCH(bool, option);
+        QFETCH(bool, logged);
+        const message_capture capture;
+        QLoggingCategory::setFilterRules(rules);
+        if (option) {
+            serial_connector::enable_wire_log();
+        }
+        open_link l;
+        QVERIFY(l.open());
+        const QString frame = frame_codec::compose(5, 0x92, 0);
+        in_link_thread(l.link, [&l, frame] { l.link.sl_send_string(frame); });
+        QCOMPARE(l.pty.read_exactly(29), frame.toLatin1() + "\r\n");
+        const QString answer = QStringLiteral("t0058910500000000000a1111");
+        QVERIFY(l.pty.write(answer.toLatin1() + "\r"));
+        QVERIFY(l.lines.wait_for(1));
+
+        QStringList wire;
+        for (const QString &m : message_capture::taken()) {
+            if (m.startsWith(QLatin1String("lumivox.wire: "))) {
+                wire << m.mid(14);
+            }
+        }
+        QStringList expected;
+        if (logged) {
+            for (int i = 0; i < 3; ++i) {
+                expected << QStringLiteral("O\r") << QStringLiteral("S6\r");
+            }
+            expected << frame << answer;
+        }
+        QCOMPARE(wire, expected);
+        // The link's other debug lines are written either way.
+        QVERIFY(message_capture::taken().contains(
+            QStringLiteral("default: serial port is opened SUCCESSFULLY")));
     }
 
     void connect_while_open_reopens() {
