@@ -26,13 +26,13 @@ const QMap<int, double> parameter_values{{81, 5},   {37, 1000}, {38, 100},   {66
 // drive voltage with 37 and 38), or has rows of its own.
 const QMap<int, double> picosecond_values{{37, 30},    {38, 0},   {55, 40},  {54, 15}, {56, 0.001},
                                           {57, -0.02}, {58, 2.5}, {59, 1.0}, {61, 10}};
-const QMap<int, QMap<int, double>> type_parameter_values{{20, picosecond_values},
-                                                         {26, picosecond_values},
-                                                         {28, picosecond_values},
-                                                         {35, picosecond_values}};
 // Physical values of the parameters whose meaning differs by type, by type and code.
 const QMap<int, double> ns_current_values{{37, 50}, {38, 0.5}, {55, 40}, {54, 15}, {56, 2.5}};
 const QMap<int, QMap<int, double>> type_parameter_values{
+    {20, picosecond_values},
+    {26, picosecond_values},
+    {28, picosecond_values},
+    {35, picosecond_values},
     {19, ns_current_values},
     {23, ns_current_values},
     {29, ns_current_values},
