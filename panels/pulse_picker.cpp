@@ -31,7 +31,7 @@ pulse_picker::pulse_picker(QWidget *parent) : panel_base(parent), ui(new Ui::pul
     set_poll_plan(plan);
     set_parameters({{81, tr("CAN ID"), 0}});
 
-    bind_reading({frequency_report, tr("Frequency"), tr("kHz"), 1000, 3, 5}, &frequency_,
+    bind_reading({frequency_report, tr("Frequency"), tr("kHz"), 1000, 3, 4}, &frequency_,
                  ui->l_freq);
     // (8192 - reported) / 8192 × 100 %.
     bind_reading(

@@ -15,14 +15,6 @@ using namespace panel_test;
 
 namespace {
 
-QWidget *child(panel_base &panel, const QString &name) {
-    QWidget *widget = panel.findChild<QWidget *>(name);
-    if (!widget) {
-        qFatal("no %s in the panel", qPrintable(name));
-    }
-    return widget;
-}
-
 // What a widget shows, as one word or text: "hidden"; a label's text; a bar's value; a spin
 // box's text or "disabled"; a combo box's item; a switch "on"/"off"; a button's text; otherwise
 // "enabled" or "disabled".
@@ -70,11 +62,11 @@ void run(panel_base &panel, box_answerer &boxes, const QString &script) {
                 panel.sl_parsed_data_received(record.code + 128, raw.value(record.code, 7));
             }
         } else if (w[0] == "click") {
-            qobject_cast<QAbstractButton *>(child(panel, w[1]))->click();
+            child<QAbstractButton>(panel, w[1])->click();
         } else if (w[0] == "choose") {
-            emit qobject_cast<QComboBox *>(child(panel, "mode"))->activated(w[1].toInt());
+            emit child<QComboBox>(panel, "mode")->activated(w[1].toInt());
         } else if (w[0] == "enter" || w[0] == "press") {
-            auto *spin = qobject_cast<QAbstractSpinBox *>(child(panel, w[1]));
+            auto *spin = child<QAbstractSpinBox>(panel, w[1]);
             if (w[0] == "enter") {
                 spin->clear();
                 QTest::keyClicks(spin, w[2]);
@@ -190,7 +182,7 @@ private slots:
         for (const QString &check : checks.split('|', Qt::SkipEmptyParts)) {
             const QString name = check.section('=', 0, 0);
             const QString value = name == "emissions" ? QString::number(emissions.count())
-                                                      : shown(child(*panel, name));
+                                                      : shown(child<QWidget>(*panel, name));
             QCOMPARE(name + '=' + value, check);
         }
     }
