@@ -10,6 +10,11 @@
 
 namespace {
 
+// Taken at the end of the constructor (in the recorder's GUI thread) and at the start of every call
+// in the writer's thread: what the constructor wrote is seen to happen before, also by the thread
+// sanitizer, which cannot see the hand-over inside Qt's event queue.
+std::mutex construction;
+
 QString series_key(const device_sample &s) {
     const QChar gap(0x1f);
     return QString::number(s.can_id) + gap + s.device + gap + QString::number(s.kind) + gap +
@@ -25,9 +30,12 @@ qint64 local_midnight(qint64 ms, int days) {
 }  // namespace
 
 record_writer::record_writer(record_queue &queue, qint64 steady_repeat_ms)
-    : queue_(queue), steady_repeat_ms_(steady_repeat_ms) {}
+    : queue_(queue), steady_repeat_ms_(steady_repeat_ms) {
+    std::lock_guard<std::mutex> published(construction);
+}
 
 void record_writer::open() {
+    { std::lock_guard<std::mutex> seen(construction); }
     if (opened_) {
         return;
     }
@@ -69,6 +77,7 @@ bool record_writer::start_file(qint64 start_ms) {
 }
 
 void record_writer::drain() {
+    { std::lock_guard<std::mutex> seen(construction); }
     QVector<device_sample> batch;
     {
         std::lock_guard<std::mutex> hold(queue_.lock);
