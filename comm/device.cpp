@@ -11,28 +11,40 @@
 
 #include <mutex>
 
-// The device as the link's thread sees it. The lock is held while a line is handled and by the
-// destructor while it withdraws the device, so the link never touches a device being deleted.
+// The device as the link's thread sees it: null once the device is being deleted.
 struct device::line_gate {
-    std::mutex lock;
     device *owner = nullptr;
 };
+
+namespace {
+
+// Held by the link's thread while it hands a line to a device, and by the GUI thread while it
+// creates a device, makes it listen or withdraws it. So the link never touches a device being
+// deleted, and what the GUI thread set up is visible to the link's thread, also to the thread
+// sanitizer, which cannot see Qt's own locks. One lock for all devices: only the link's thread
+// takes it while the program polls.
+std::mutex gates_lock;
+
+}  // namespace
 
 device::device(QWidget *host, const panel_registry *registry)
     : host_(host),
       registry_(registry ? registry : &panel_registry::instance()),
       gate_(std::make_shared<line_gate>()) {
-    gate_->owner = this;
+    {
+        std::lock_guard<std::mutex> publishing(gates_lock);
+        gate_->owner = this;
+    }
     moveToThread(worker_.thread());
 }
 
 device::~device() {
     {
-        std::lock_guard<std::mutex> withdrawing(gate_->lock);
+        std::lock_guard<std::mutex> withdrawing(gates_lock);
         gate_->owner = nullptr;
-    }
-    for (const QMetaObject::Connection &c : qAsConst(listening_)) {
-        disconnect(c);
+        for (const QMetaObject::Connection &c : qAsConst(listening_)) {
+            disconnect(c);
+        }
     }
     // The panel belongs to the GUI thread, as does the caller.
     delete current_panel_.data();
@@ -43,11 +55,12 @@ void device::listen_to(serial_connector *link) {
     // A direct connection, so the line is handled in the link's thread as it is emitted: a queued
     // one would wake every device's thread for every line. The connection holds the gate, not the
     // device, so it outlives a deleted device harmlessly.
+    std::lock_guard<std::mutex> setting_up(gates_lock);
     const std::shared_ptr<line_gate> gate = gate_;
     listening_.append(connect(
         link, &serial_connector::sig_parse_received_message, link,
         [gate](const QString &line) {
-            std::lock_guard<std::mutex> handling(gate->lock);
+            std::lock_guard<std::mutex> handling(gates_lock);
             if (gate->owner) {
                 gate->owner->sl_d_data_received(line);
             }
