@@ -42,8 +42,10 @@ void quit_on_signal(QObject *parent) {
     action.sa_handler = on_quit_signal;
     sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
+    // SIGHUP too: a closed terminal or an ended session must not lose the device table.
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        sigaction(number, &action, nullptr);
+    }
 }
 
 void prepare_program(QApplication &app, QTranslator &translator) {

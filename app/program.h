@@ -9,11 +9,12 @@ class QTranslator;
 // and quitting on signals (below).
 void prepare_program(QApplication &app, QTranslator &translator);
 
-// Makes SIGINT and SIGTERM close the program as the window's close button does: every top-level
-// window is closed (the main window saves the configuration file), then the event loop ends and the
-// worker threads are stopped on the way out, so the exit code is 0. The signal handler only writes
-// one byte to a pipe; the closing happens in the GUI thread, which watches the pipe. Call once,
-// after the application object exists; `parent` owns the watcher.
+// Makes SIGINT, SIGTERM and SIGHUP (terminal closed, session ended) close the program as the
+// window's close button does: every top-level window is closed (the main window saves the
+// configuration file), then the event loop ends and the worker threads are stopped on the way out,
+// so the exit code is 0. The signal handler only writes one byte to a pipe; the closing happens in
+// the GUI thread, which watches the pipe. Call once, after the application object exists; `parent`
+// owns the watcher.
 void quit_on_signal(QObject *parent);
 
 // Reads the program's own command-line options. "--log-wire" writes every frame sent and every line

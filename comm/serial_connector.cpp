@@ -1,5 +1,7 @@
 #include "serial_connector.h"
 
+#include "line_cutter.h"
+
 #include <QDebug>
 #include <QMutexLocker>
 
@@ -180,25 +182,14 @@ void serial_connector::sl_data_received() {
     while (port_->isOpen() && port_->bytesAvailable() > 0) {
         const QByteArray chunk = port_->readLine();
         bytes_received_.fetch_add(chunk.size());
-        buffer_.append(chunk);
-        if (buffer_.contains('\r')) {
-            // Every piece closed by a carriage return is a line; text after the last one is
-            // discarded with the buffer.
-            QList<QByteArray> pieces = buffer_.split('\r');
-            pieces.removeLast();
-            buffer_.clear();
-            for (const QByteArray &piece : qAsConst(pieces)) {
-                if (!piece.isEmpty()) {
-                    const QString line = QString::fromUtf8(piece);
-                    qCDebug(wire_log).noquote() << line;
-                    emit sig_parse_received_message(line);
-                }
-            }
+        const QList<QByteArray> lines = line_cutter::append(buffer_, chunk);
+        for (const QByteArray &piece : lines) {
+            const QString line = QString::fromUtf8(piece);
+            qCDebug(wire_log).noquote() << line;
+            emit sig_parse_received_message(line);
         }
     }
-    if (buffer_.size() > max_buffered_bytes) {
-        buffer_.clear();
-    }
+    line_cutter::bound(buffer_, max_buffered_bytes);
 }
 
 void serial_connector::sl_send_string(QString text) {
