@@ -83,7 +83,6 @@ private:
 
     void rebuild_panel();
 
-
     std::atomic<int> type_id_{-1};
     int previous_type_id_ = -1;  // GUI thread only
     std::atomic<int> can_id_{-1};

@@ -48,6 +48,14 @@ void deliver(device &dev, const QString &line) {
     run_in(&dev, [&dev, line] { dev.sl_d_data_received(line); });
 }
 
+// Opens `link` on the pseudo-terminal, as the window's connect request does.
+bool open_on(serial_connector &link, const pty_pair &pty) {
+    signal_log connected(&link, &serial_connector::sig_connected);
+    const QString path = pty.slave_path();
+    post_to(&link, [&link, path] { link.sl_init_connection(path); });
+    return connected.wait_for(1);
+}
+
 bool is_type_request(const QString &frame, int can_id) {
     return frame == frame_codec::compose(can_id, 0xD0, 0);
 }
@@ -255,10 +263,7 @@ private slots:
         dev.set_accept_any_sender(accept_any);
         dev.listen_to(&link);
         signal_log lines(&link, &serial_connector::sig_parse_received_message);
-        signal_log connected(&link, &serial_connector::sig_connected);
-        const QString path = pty.slave_path();
-        post_to(&link, [&link, path] { link.sl_init_connection(path); });
-        QVERIFY(connected.wait_for(1));
+        QVERIFY(open_on(link, pty));
 
         // The device (connected first) has handled each line by the time the link's signal
         // reaches this thread.
@@ -304,10 +309,7 @@ private slots:
         pty_pair pty;
         serial_connector link;
         signal_log lines(&link, &serial_connector::sig_parse_received_message);
-        signal_log connected(&link, &serial_connector::sig_connected);
-        const QString path = pty.slave_path();
-        post_to(&link, [&link, path] { link.sl_init_connection(path); });
-        QVERIFY(connected.wait_for(1));
+        QVERIFY(open_on(link, pty));
         auto *dev = new device(&host, &registry);
         dev->set_can_id(5);
         dev->listen_to(&link);
