@@ -9,6 +9,7 @@
 #include "sim_pty.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -19,9 +20,9 @@
 
 namespace {
 
-constexpr int cw_id = 1;         // type 14, the CW driver panel
-constexpr int precision_id = 2;  // type 15, the precision CW panel
-constexpr int picosecond_id = 3; // type 20, a type whose panel class the program does not have
+constexpr int cw_id = 1;          // type 14, the CW driver panel
+constexpr int precision_id = 2;   // type 15, the precision CW panel
+constexpr int picosecond_id = 3;  // type 20, the picosecond driver panel
 
 }  // namespace
 
@@ -65,7 +66,8 @@ private slots:
         const int ids[] = {cw_id, precision_id, picosecond_id};
         for (int n = 0; n < 3; ++n) {
             ini.setValue(QStringLiteral("device_%1").arg(n), ids[n]);
-            ini.setValue(QStringLiteral("name_device_%1").arg(n), QStringLiteral("Bench %1").arg(n));
+            ini.setValue(QStringLiteral("name_device_%1").arg(n),
+                         QStringLiteral("Bench %1").arg(n));
         }
         ini.sync();
 
@@ -85,28 +87,30 @@ private slots:
     }
 
     void devices_are_found_and_panels_built() {
-        QTRY_VERIFY_WITH_TIMEOUT(panel_of(0) && panel_of(1), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(panel_of(0) && panel_of(1) && panel_of(2), 10000);
         QCOMPARE(panel_of(0)->type_name(), QStringLiteral("VTR-CW-1800"));
         QCOMPARE(panel_of(1)->type_name(), QStringLiteral("VTR-CW-1800H precision"));
+        QCOMPARE(panel_of(2)->type_name(), QStringLiteral("VTR-PS"));
         QCOMPARE(panel_of(0)->display_name(), QStringLiteral("Bench 0"));
         // The panels sit in their containers on the Main page.
         QCOMPARE(panel_of(0)->parentWidget(), window->containers().at(0));
         QCOMPARE(panel_of(1)->parentWidget(), window->containers().at(1));
-        // Type 20 is learned, but there is no panel for it.
-        QTRY_COMPARE(window->devices().at(2)->type_id(), 20);
-        QVERIFY(!panel_of(2));
     }
 
     void poll_cycles_settle() {
         // Once every configuration row is known (emission and TEC off), the configuration
         // button is enabled; the rows come from the simulated device's own table.
-        for (int slot : {0, 1}) {
+        for (int slot : {0, 1, 2}) {
             auto *configure = panel_of(slot)->findChild<QAbstractButton *>("toolButton");
             QVERIFY(configure);
             QTRY_VERIFY_WITH_TIMEOUT(configure->isEnabled(), 15000);
         }
         auto *model = panel_of(0)->findChild<QLabel *>("laser_name_label");
         QCOMPARE(model->text(), QStringLiteral("VTR-CW-1800"));
+        // The picosecond driver's 100 kHz fills its rate in the "kHz" range.
+        auto *rate = panel_of(2)->findChild<QDoubleSpinBox *>("dsb_freq");
+        QTRY_COMPARE_WITH_TIMEOUT(rate->value(), 100.0, 5000);
+        QCOMPARE(panel_of(2)->findChild<QComboBox *>("cb_freq_range")->currentText(), "kHz");
     }
 
     void confirmed_set_point_reaches_the_device() {
