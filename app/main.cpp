@@ -1,17 +1,42 @@
 #include "main_window.h"
 #include "program.h"
+#include "recorder.h"
+#include "trend_window.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <QTranslator>
 
+#include <memory>
+
 int main(int argc, char *argv[]) {
+    if (const int code = answer_help(argc, argv); code >= 0) {
+        return code;
+    }
     QApplication app(argc, argv);
-    read_command_line(app);
     QTranslator translator;
     prepare_program(app, translator);
+    program_options options;
+    const std::unique_ptr<QSettings> settings(open_program_settings());
+    if (const int code = take_command_line(app.arguments(), *settings, &options); code >= 0) {
+        return code;
+    }
 
+    if (!options.trends_file.isEmpty()) {
+        trend_window trends;
+        trends.show();
+        trends.open_file(options.trends_file);
+        return app.exec();
+    }
     main_window window;
     window.initialise_from_config();
+    recorder rec;
+    if (!options.record_dir.isEmpty()) {
+        record_window(window, rec, options.record_dir);
+    }
     window.show();
+    if (options.trends) {
+        window.open_trends();
+    }
     return app.exec();
 }

@@ -5,6 +5,8 @@
 #include "panel_registry.h"
 #include "serial_connector.h"
 #include "settings_file.h"
+#include "observation_hub.h"
+#include "trend_window.h"
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
@@ -15,6 +17,7 @@
 #include <QPixmap>
 #include <QSerialPortInfo>
 #include <QSettings>
+#include <QShortcut>
 #include <QSpinBox>
 #include <QStyle>
 #include <QThread>
@@ -49,8 +52,8 @@ const brand_look brand_looks[] = {
      ":/interface/SkarN_logo.png", 273, 60},
     {"Quibrel", "QWidget {\n\tbackground-color: rgb(60, 145, 136);\n}",
      ":/interface/quibrel_logo_PNG.png", 215, 60},
-    {"Veltrano", "QWidget {\n\tbackground-color: rgb(35, 39, 215);\n}",
-     ":/interface/veltrano.png", 273, 35},
+    {"Veltrano", "QWidget {\n\tbackground-color: rgb(35, 39, 215);\n}", ":/interface/veltrano.png",
+     273, 35},
     {nullptr, "QWidget {\n\tbackground-color: rgb(76, 109, 128);\n}",
      ":/interface/power_version.png", 128, 95},
 };
@@ -61,7 +64,9 @@ constexpr int generic_header_max_height = 107;
 constexpr int min_can_id = settings_file::table_min_can_id;
 constexpr int max_can_id = settings_file::table_max_can_id;
 
-QString key(const char *prefix, int n) { return QLatin1String(prefix) + QString::number(n); }
+QString key(const char *prefix, int n) {
+    return QLatin1String(prefix) + QString::number(n);
+}
 
 }  // namespace
 
@@ -81,7 +86,8 @@ main_window::main_window(const QString &brand, const panel_registry *registry, Q
 
     // The link has no parent: it lives in a thread of its own and is deleted by the destructor.
     serial_ = new serial_connector;
-    connect(this, &main_window::sig_init_connection, serial_, &serial_connector::sl_init_connection);
+    connect(this, &main_window::sig_init_connection, serial_,
+            &serial_connector::sl_init_connection);
     connect(this, &main_window::sig_disconnect, serial_, &serial_connector::sl_serial_disconnect);
     connect(serial_, &serial_connector::sig_connected, this, &main_window::sl_serial_connected);
     connect(serial_, &serial_connector::sig_disconnected, this,
@@ -111,9 +117,14 @@ main_window::main_window(const QString &brand, const panel_registry *registry, Q
     reconnect_timer_->setSingleShot(true);
     reconnect_timer_->setTimerType(Qt::PreciseTimer);
     connect(reconnect_timer_, &QTimer::timeout, this, &main_window::reconnect_due);
+
+    observations_ = new observation_hub(system_clock(), this);
+    auto *trends = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_T), this);
+    connect(trends, &QShortcut::activated, this, &main_window::open_trends);
 }
 
 main_window::~main_window() {
+    delete trends_;
     poll_timer_->stop();
     reconnect_timer_->stop();
     // Both stop their threads and wait for them: the link first, so that no line reaches a
@@ -142,7 +153,9 @@ void main_window::apply_brand() {
     }
 }
 
-void main_window::set_port_lister(port_lister lister) { list_ports_ = std::move(lister); }
+void main_window::set_port_lister(port_lister lister) {
+    list_ports_ = std::move(lister);
+}
 
 QList<main_window::port_entry> main_window::system_ports() {
     QList<port_entry> ports;
@@ -153,7 +166,7 @@ QList<main_window::port_entry> main_window::system_ports() {
     return ports;
 }
 
-// ---- Configuration file and device table ---------------------------------------------------------
+// ---- Configuration file and device table --------------------------------------------------------
 
 void main_window::initialise_from_config() {
     const settings_file::contents stored = settings_file::read(config_file);
@@ -350,22 +363,28 @@ void main_window::on_mini_usb_mode_checkbox_stateChanged(int arg1) {
     ui->delete_row_pb->setEnabled(!on);
 }
 
-// ---- Pages ----------------------------------------------------------------------------------------
+// ---- Pages --------------------------------------------------------------------------------------
 
 void main_window::show_page(int index) {
     ui->stackedWidget->setCurrentIndex(index);
     QPushButton *const buttons[] = {ui->main_menu_butt, ui->main_menu_butt_2, ui->main_menu_butt_3};
     for (int i = 0; i < 3; ++i) {
-        buttons[i]->setStyleSheet(QString::fromLatin1(i == index ? menu_selected_style
-                                                                 : menu_plain_style));
+        buttons[i]->setStyleSheet(
+            QString::fromLatin1(i == index ? menu_selected_style : menu_plain_style));
     }
 }
 
-void main_window::on_main_menu_butt_clicked() { show_page(0); }
-void main_window::on_main_menu_butt_2_clicked() { show_page(1); }
-void main_window::on_main_menu_butt_3_clicked() { show_page(2); }
+void main_window::on_main_menu_butt_clicked() {
+    show_page(0);
+}
+void main_window::on_main_menu_butt_2_clicked() {
+    show_page(1);
+}
+void main_window::on_main_menu_butt_3_clicked() {
+    show_page(2);
+}
 
-// ---- Serial port ----------------------------------------------------------------------------------
+// ---- Serial port --------------------------------------------------------------------------------
 
 void main_window::on_serial_refresh_button_clicked() {
     QComboBox *combo = ui->serial_combo_box;
@@ -439,7 +458,7 @@ void main_window::reconnect_due() {
     }
 }
 
-// ---- Polling cycle --------------------------------------------------------------------------------
+// ---- Polling cycle ------------------------------------------------------------------------------
 
 void main_window::sl_tearing() {
     // The next device in round-robin order that can send; one whose CAN ID no frame carries is
@@ -475,9 +494,23 @@ void main_window::sl_change_ui_widget(device *dev, int slot) {
     }
     containers_.at(slot)->layout()->addWidget(panel);
     connect(dev, &device::sig_refresh_state, panel, &device_panel::sl_refresh_state);
+    observations_->watch(dev->can_id(), dev->name(), panel);
 }
 
-// ---- TTL tester -----------------------------------------------------------------------------------
+trend_window *main_window::open_trends() {
+    if (!trends_) {
+        trends_ = new trend_window;
+        // The program ends with the main window, whether the trends are open or not.
+        trends_->setAttribute(Qt::WA_QuitOnClose, false);
+        connect(observations_, &observation_hub::sig_sample, trends_, &trend_window::take);
+    }
+    trends_->show();
+    trends_->raise();
+    trends_->activateWindow();
+    return trends_;
+}
+
+// ---- TTL tester ---------------------------------------------------------------------------------
 
 void main_window::on_pushButton_clicked() {
     emit sig_send_command(QStringLiteral("FREQ_TTL ") +
@@ -485,8 +518,8 @@ void main_window::on_pushButton_clicked() {
 }
 
 void main_window::on_pushButton_2_clicked() {
-    emit sig_send_command(QStringLiteral("PW_TTL ") + QString::number(ui->pw_spin->value(), 'f', 0) +
-                          QStringLiteral("\r"));
+    emit sig_send_command(QStringLiteral("PW_TTL ") +
+                          QString::number(ui->pw_spin->value(), 'f', 0) + QStringLiteral("\r"));
 }
 
 void main_window::on_pushButton_3_clicked() {
@@ -501,7 +534,7 @@ void main_window::on_pushButton_3_clicked() {
     }
 }
 
-// ---- Events ---------------------------------------------------------------------------------------
+// ---- Events -------------------------------------------------------------------------------------
 
 bool main_window::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Wheel) {

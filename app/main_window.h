@@ -7,14 +7,17 @@
 #include <QElapsedTimer>
 #include <QList>
 #include <QMainWindow>
+#include <QPointer>
 #include <QString>
 
 #include <functional>
 
 class QCloseEvent;
 class QTimer;
+class observation_hub;
 class panel_registry;
 class serial_connector;
+class trend_window;
 
 namespace Ui {
 class main_window;
@@ -35,7 +38,8 @@ public:
     using port_lister = std::function<QList<port_entry>()>;
 
     static constexpr int poll_interval_ms = 10;
-    // Automatic connection attempts are at least this far apart, so a missing adapter costs nothing.
+    // Automatic connection attempts are at least this far apart, so a missing adapter costs
+    // nothing.
     static constexpr int reconnect_gap_ms = 500;
     // Pause between a possible automatic connection at start-up and filling the port list.
     static constexpr int startup_pause_ms = 100;
@@ -63,6 +67,12 @@ public:
     serial_connector *serial_link() const { return serial_; }
     const QList<device *> &devices() const { return devices_; }
     const QList<QWidget *> &containers() const { return containers_; }
+
+    // What every placed panel reports, for the recorder and the trend window.
+    observation_hub *observations() const { return observations_; }
+    // Shows the live trend window (Ctrl+T), made on first use; closing it only hides it, so it
+    // keeps collecting until the program ends.
+    trend_window *open_trends();
 
 signals:
     void sig_init_connection(QString port_name);
@@ -120,4 +130,6 @@ private:
     // Set when the file could not be used as written and no copy of it could be made: closing must
     // not overwrite the only record of the operator's devices.
     bool keep_file_ = false;
+    observation_hub *observations_ = nullptr;
+    QPointer<trend_window> trends_;
 };

@@ -1,18 +1,30 @@
 #include "program.h"
 
+#include "build_info.h"
+#include "main_window.h"
+#include "observation_hub.h"
 #include "panel_registry.h"
 #include "panels.h"
 #include "serial_connector.h"
+#include "recorder.h"
 #include "translation.h"
+#include "trend_window.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDebug>
+#include <QFileInfo>
 #include <QLocale>
+#include <QMessageBox>
+#include <QSettings>
 #include <QSocketNotifier>
+#include <QStatusBar>
 
-#include <csignal>
+#include <cstdio>
+
 #include <fcntl.h>
 #include <unistd.h>
+#include <csignal>
 
 namespace {
 
@@ -55,16 +67,108 @@ void prepare_program(QApplication &app, QTranslator &translator) {
     quit_on_signal(&app);
 }
 
-void read_command_line(const QApplication &app) {
+namespace {
+const QString record_key = QStringLiteral("record/directory");
+}  // namespace
+
+int take_command_line(const QStringList &arguments, QSettings &remembered,
+                      program_options *options) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Lumivox: laser drivers on a CAN bus."));
-    parser.addHelpOption();
+    parser.setApplicationDescription(QCoreApplication::translate(
+        "program", "Controls laser-diode drivers, laser modules and accessories on a CAN bus."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption record(
+        QStringLiteral("record"),
+        QCoreApplication::translate("program",
+                                    "Record what the devices report into CSV files in <dir>; "
+                                    "remembered for the next runs until \"--record off\"."),
+        QStringLiteral("dir|off"));
+    const QCommandLineOption trends(
+        QStringLiteral("trends"),
+        QCoreApplication::translate("program",
+                                    "Open the trend window with the main window; with <file>, "
+                                    "show that recording alone."));
+    // Frames on the wire go to the debug log only when asked: at full rate they are most of it.
     const QCommandLineOption log_wire(
         QStringLiteral("log-wire"),
-        QStringLiteral("Write every frame sent and every line received to the debug log."));
-    parser.addOption(log_wire);
-    parser.process(app);
+        QCoreApplication::translate(
+            "program", "Write every frame sent and every line received to the debug log."));
+    parser.addOptions({record, trends, log_wire});
+    parser.addPositionalArgument(
+        QStringLiteral("file"), QCoreApplication::translate("program", "A recording for --trends."),
+        QStringLiteral("[file]"));
+    if (!parser.parse(arguments)) {
+        std::fprintf(stderr, "%s\n", qPrintable(parser.errorText()));
+        return 2;
+    }
+    if (parser.isSet(help) || parser.isSet(version)) {
+        const QString text = parser.isSet(help)
+                                 ? parser.helpText()
+                                 : QStringLiteral("lumivox v5.%1\n")
+                                       .arg(QString::fromLatin1(build_info::commit).left(6));
+        std::fputs(qPrintable(text), stdout);
+        return 0;
+    }
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1 || (!files.isEmpty() && !parser.isSet(trends))) {
+        std::fprintf(
+            stderr, "%s\n",
+            qPrintable(QCoreApplication::translate(
+                           "program", "Unexpected argument: %1 (a recording goes after --trends).")
+                           .arg(files.last())));
+        return 2;
+    }
+    if (parser.isSet(record)) {
+        const QString dir = parser.value(record);
+        if (dir == QLatin1String("off")) {
+            remembered.remove(record_key);
+        } else {
+            remembered.setValue(record_key, QFileInfo(dir).absoluteFilePath());
+        }
+        remembered.sync();
+    }
     if (parser.isSet(log_wire)) {
         serial_connector::enable_wire_log();
     }
+    options->record_dir = remembered.value(record_key).toString();
+    options->trends = parser.isSet(trends);
+    options->trends_file = files.value(0);
+    return -1;
+}
+
+int answer_help(int argc, char *argv[]) {
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray arg(argv[i]);
+        if (arg == "-h" || arg == "--help" || arg == "--help-all" || arg == "-v" ||
+            arg == "--version") {
+            QCoreApplication core(argc, argv);
+            QSettings untouched;
+            program_options unused;
+            return take_command_line(core.arguments(), untouched, &unused);
+        }
+    }
+    return -1;
+}
+
+QSettings *open_program_settings() {
+    return new QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("lumivox"),
+                         QStringLiteral("lumivox"));
+}
+
+void record_window(main_window &window, recorder &rec, const QString &dir) {
+    QObject::connect(window.observations(), &observation_hub::sig_sample, &rec, &recorder::take);
+    QObject::connect(&rec, &recorder::sig_file_started, &window,
+                     [](const QString &path) { qInfo().noquote() << "recording to" << path; });
+    QObject::connect(&rec, &recorder::sig_failed, &window, [&window](const QString &why) {
+        window.statusBar()->showMessage(why);
+        auto *box = new QMessageBox(QMessageBox::Warning,
+                                    QCoreApplication::translate("program", "Recording"), why,
+                                    QMessageBox::Ok, &window);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->setWindowModality(Qt::NonModal);
+        box->show();
+    });
+    trend_window::set_default_directory(dir);
+    rec.start(dir);
 }

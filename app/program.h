@@ -1,8 +1,14 @@
 #pragma once
 
+#include <QString>
+#include <QStringList>
+
 class QApplication;
 class QObject;
+class QSettings;
 class QTranslator;
+class main_window;
+class recorder;
 
 // Sets up what the program needs before its window: the translation for the user's languages
 // (installed into `translator`, which must outlive the window), every panel class in the registry,
@@ -17,8 +23,27 @@ void prepare_program(QApplication &app, QTranslator &translator);
 // owns the watcher.
 void quit_on_signal(QObject *parent);
 
-// Reads the program's own command-line options. "--log-wire" writes every frame sent and every line
-// received to the debug log (off by default); "--help" lists the options. An unknown option ends
-// the program with a message, as does --help after printing the list. Call after the application
-// object exists.
-void read_command_line(const QApplication &app);
+// What the command line asks of this run.
+struct program_options {
+    QString record_dir;   // where this run records what the devices report; empty: nowhere
+    bool trends = false;  // open the live trend window with the main window
+    QString trends_file;  // show this recording in a trend window instead of the main window
+};
+
+// Answers --help and --version before the window system is opened (they need no display): the
+// exit code, or -1 when neither is asked for.
+int answer_help(int argc, char *argv[]);
+// Reads the command line (`arguments` as QCoreApplication::arguments() gives them). `remembered`
+// keeps the recording directory between runs: "--record DIR" sets it, "--record off" clears it.
+// Returns -1 when the program should run, else the exit code after printing the help text, the
+// version or what is wrong with the arguments.
+int take_command_line(const QStringList &arguments, QSettings &remembered,
+                      program_options *options);
+// The program's own settings, kept apart from configs/config.ini (whose keys are fixed):
+// lumivox/lumivox.ini in the user's configuration directory.
+QSettings *open_program_settings();
+
+// Records what the window's panels report into `dir`. If the directory cannot be written or the
+// disk fills up, recording stops and the window says why in its status bar and in a box that
+// does not wait for an answer: polling goes on.
+void record_window(main_window &window, recorder &rec, const QString &dir);

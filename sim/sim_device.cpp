@@ -4,6 +4,7 @@
 
 #include <QtMath>
 
+#include <algorithm>
 #include <cmath>
 
 using sim::device_profile;
@@ -19,10 +20,22 @@ constexpr int read_flag = 0x80;
 // Dynamics are integrated in steps of at most this many milliseconds.
 constexpr int max_step_ms = 10;
 
+// A lively device: each measured answer carries noise of this share of its value, at least a third
+// of a unit of its last digit; the temperature wanders by this share of its value with this time
+// constant; a computed reading moves by `drift_per_share` times the temperature's relative
+// offset (warmer diodes give less light), by no more than `max_drift`.
+constexpr double noise_share = 0.0004;
+constexpr double noise_floor_units = 0.3;
+constexpr double wander_share = 0.002;
+constexpr double wander_time_s = 30.0;
+constexpr double drift_per_share = -0.5;
+constexpr double max_drift = 0.1;
+
 }  // namespace
 
 sim_device::sim_device(int can_id, const device_profile &profile)
     : profile_(&profile), address_(can_id), noise_source_(static_cast<unsigned>(can_id) + 1) {
+    lively_source_.seed(static_cast<unsigned>(can_id) * 2654435761u + 7u);
     load_profile(profile);
 }
 
@@ -95,8 +108,8 @@ QByteArray sim_device::handle(int code, qint32 written) {
     if (garbage_) {
         return noise();
     }
-    return sim_frame::compose_answer(address_, address_, code,
-                                     static_cast<quint32>(value(quantity)));
+    return sim_frame::compose_answer(
+        address_, address_, code, static_cast<quint32>(measured_answer(quantity, value(quantity))));
 }
 
 void sim_device::write(int code, qint32 written) {
@@ -153,6 +166,10 @@ void sim_device::advance(int ms) {
         const int step = qMin(ms, max_step_ms);
         ms -= step;
         const double seconds = step / 1000.0;
+        if (lively_) {
+            wander(seconds);
+        }
+        bool first_settle = true;
         for (std::size_t i = 0; i < profile_->followers.size(); ++i) {
             const follower_def &f = profile_->followers[i];
             const double target = double(target_of(f));
@@ -168,10 +185,52 @@ void sim_device::advance(int ms) {
                     position = target;
                 }
             }
-            ram_[f.code] = static_cast<qint32>(std::lround(position));
+            double reported = position;
+            if (lively_ && f.kind == follower_def::settle && first_settle) {
+                reported *= 1.0 + temperature_wander_;  // the device's own temperature
+            }
+            first_settle = first_settle && f.kind != follower_def::settle;
+            ram_[f.code] = static_cast<qint32>(std::lround(reported));
         }
         update_readings();
     }
+}
+
+void sim_device::wander(double seconds) {
+    // A slow random walk pulled back to zero (Ornstein-Uhlenbeck), stepped exactly.
+    const double keep = std::exp(-seconds / wander_time_s);
+    std::normal_distribution<double> step(0.0, wander_share * std::sqrt(1.0 - keep * keep));
+    temperature_wander_ = temperature_wander_ * keep + step(lively_source_);
+}
+
+qint32 sim_device::measured_answer(int code, qint32 stored) {
+    // A switched-off output reads a clean zero; only measured quantities move.
+    if (!lively_ || stored == 0) {
+        return stored;
+    }
+    const auto derived = std::find_if(profile_->derived.begin(), profile_->derived.end(),
+                                      [code](const sim::derived_def &d) { return d.code == code; });
+    const bool computed = derived != profile_->derived.end();
+    if (!computed && !profile_->find_follower(code)) {
+        return stored;
+    }
+    double reading = stored;
+    if (computed) {
+        // The temperature's offset from where it is set, as a share of it.
+        for (const follower_def &f : profile_->followers) {
+            if (f.kind == follower_def::settle) {
+                const double target = double(target_of(f));
+                if (target != 0) {
+                    const double offset = (double(value(f.code)) - target) / std::abs(target);
+                    reading *= 1.0 + qBound(-max_drift, drift_per_share * offset, max_drift);
+                }
+                break;
+            }
+        }
+    }
+    std::normal_distribution<double> noise(
+        0.0, std::max(noise_floor_units, std::abs(reading) * noise_share));
+    return static_cast<qint32>(std::lround(reading + noise(lively_source_)));
 }
 
 void sim_device::update_readings() {

@@ -48,6 +48,14 @@ public:
     // the address from the stored CAN ID.
     void reset();
 
+    // Real readings never stand quite still. While lively, every measured value (a quantity that
+    // follows a set point, or one computed from another) is answered with a little noise, the
+    // device's temperature wanders slowly around where it settles, and the values computed from
+    // the drive (optical power and the like) drift with that temperature. Deterministic: the
+    // movement is seeded by the CAN ID. Off unless asked for, so that tests see exact values.
+    void set_lively(bool on) { lively_ = on; }
+    bool lively() const { return lively_; }
+
     // Faults on purpose.
     void set_silent(bool silent) { silent_ = silent; }
     bool silent() const { return silent_; }
@@ -72,6 +80,8 @@ private:
     qint64 target_of(const sim::follower_def &f) const;
     void update_readings();
     QByteArray noise();
+    void wander(double seconds);
+    qint32 measured_answer(int code, qint32 stored);
 
     const sim::device_profile *profile_;
     int address_;
@@ -84,4 +94,7 @@ private:
     int requests_ = 0;
     int answers_ = 0;
     std::minstd_rand noise_source_;
+    bool lively_ = false;
+    std::mt19937 lively_source_;
+    double temperature_wander_ = 0;  // relative offset of the temperature from where it settles
 };

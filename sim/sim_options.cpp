@@ -77,6 +77,7 @@ bool parse_sim_options(const QStringList &arguments, sim_options *options, QStri
     const QCommandLineOption every(QStringLiteral("every-type"), QString());
     const QCommandLineOption link(QStringLiteral("link"), QString(), QStringLiteral("PATH"));
     const QCommandLineOption trace(QStringLiteral("trace"), QString());
+    const QCommandLineOption steady(QStringLiteral("steady"), QString());
     const QCommandLineOption silent(QStringLiteral("silent"), QString(),
                                     QStringLiteral("ID[:AFTER[:FOR]]"));
     const QCommandLineOption garbage(QStringLiteral("garbage"), QString(),
@@ -87,7 +88,8 @@ bool parse_sim_options(const QStringList &arguments, sim_options *options, QStri
                                    QStringLiteral("ID:BITS[:AFTER]"));
     const QCommandLineOption hangup(QStringLiteral("hangup-after"), QString(),
                                     QStringLiteral("MS[:FOR]"));
-    parser.addOptions({help, device, every, link, trace, silent, garbage, change, alarm, hangup});
+    parser.addOptions(
+        {help, device, every, link, trace, steady, silent, garbage, change, alarm, hangup});
     if (!parser.parse(arguments)) {
         *error = parser.errorText();
         return false;
@@ -99,6 +101,7 @@ bool parse_sim_options(const QStringList &arguments, sim_options *options, QStri
     sim_options o;
     o.help = parser.isSet(help);
     o.trace = parser.isSet(trace);
+    o.steady = parser.isSet(steady);
     o.link = parser.value(link);
     const reader r{error};
 
@@ -243,6 +246,11 @@ QString sim_help_text() {
                "older\n"
                "                          link there is replaced; removed again on exit).\n"
                "  --trace                 print every request and answer on standard error.\n"
+               "  --steady                measured readings exactly as modelled: without the "
+               "small\n"
+               "                          noise, the slow temperature wander and the drift of\n"
+               "                          optical power with temperature that they have by "
+               "default.\n"
                "\n"
                "Faults (times in milliseconds from start; numbers in decimal or 0x hex):\n"
                "  --silent ID[:AFTER[:FOR]]\n"

@@ -40,6 +40,7 @@ struct sim_options {
     qint64 replug_after_ms = -1;  // after a hang-up, a new line this much later (below 0: never)
     QString link;                 // stable symbolic link to the slave path, if wanted
     bool trace = false;           // every request and answer on standard error
+    bool steady = false;          // readings without noise or drift (see sim_device::set_lively)
     bool help = false;
 };
 

@@ -25,6 +25,9 @@ bool sim_program::start() {
         say(error);
         return false;
     }
+    for (const auto &d : bus_.devices()) {
+        d->set_lively(!options_.steady);
+    }
     if (options_.trace) {
         bus_.trace = [this](const QString &line) { say(line); };
     }

@@ -344,31 +344,6 @@ private slots:
         QCOMPARE(events.layouts, QStringList());
     }
 
-    // Every described reading reaches observers with its quantity, unit and scaled value, and its
-    // value label (if any) shows the same text.
-    void readings_are_observed_data() { add_panel_types(); }
-    void readings_are_observed() {
-        QFETCH(int, type);
-        auto panel = make_panel(type);
-        QVERIFY(!panel->readings().isEmpty());
-        QSignalSpy observed(panel.get(), &panel_base::sig_observed);
-        for (const reading_spec &reading : panel->readings()) {
-            QVERIFY(!reading.quantity.isEmpty());
-            observed.clear();
-            panel->sl_parsed_data_received(reading.code, -250);
-            bool seen = false;
-            for (const QList<QVariant> &args : qAsConst(observed)) {
-                const auto o = args.first().value<panel_observation>();
-                if (o.kind == panel_observation::reading && o.quantity == reading.quantity) {
-                    QCOMPARE(o.value, (-250 - reading.offset) / reading.divisor);
-                    QCOMPARE(o.unit, reading.unit);
-                    seen = true;
-                }
-            }
-            QVERIFY2(seen, qPrintable(reading.quantity));
-        }
-    }
-
     // --- Configuration dialog
     // ---------------------------------------------------------------------
 

@@ -426,7 +426,7 @@ private slots:
         QCOMPARE(help.exitCode(), 0);
         const QString text = QString::fromLocal8Bit(help.readAllStandardOutput());
         for (const char *option : {"--device", "--link", "--silent", "--garbage", "--change-type",
-                                   "--alarm", "--hangup-after", "--every-type"}) {
+                                   "--alarm", "--hangup-after", "--every-type", "--steady"}) {
             QVERIFY2(text.contains(QLatin1String(option)), option);
         }
         QProcess bad;
