@@ -5,9 +5,12 @@
 // per request, and the resident memory. Not a test: nothing is asserted.
 //
 //     bench_program [lumivox program] [measured ms per run, 10000] [device counts, "1,8,19"]
+//                   [device types, "14,15,34,38"]
 //
-// Only the CW types (14, 15, 34, 38) have panels yet, so the devices are those four types repeated
-// over CAN ids 1 to n; the mix is a stand-in until every type has its panel.
+// The devices take the given types in turn over CAN ids 1 to n. By default these are the CW types
+// (14, 15, 34, 38), the ones that had panels when the benchmark was written; a program build from
+// before another type had its panel only asks such a device for its type, so compare builds with
+// types both have panels for.
 #include "sim_bus.h"
 #include "sim_pty.h"
 
@@ -29,8 +32,6 @@
 #include <functional>
 
 namespace {
-
-const int cw_types[] = {14, 15, 34, 38};
 
 // What /proc tells of one thread at one moment.
 struct thread_sample {
@@ -165,14 +166,14 @@ struct case_result {
     double cpu_per_request_us = 0;
 };
 
-// One run of the program against `count` simulated devices.
-case_result measure(const QString &program, int count, int measure_ms) {
+// One run of the program against `count` simulated devices of `types` in turn.
+case_result measure(const QString &program, int count, const QList<int> &types, int measure_ms) {
     case_result result;
     result.devices = count;
 
     sim_bus bus;
     for (int i = 0; i < count; ++i) {
-        bus.add_device(i + 1, cw_types[i % 4]);
+        bus.add_device(i + 1, types.at(i % types.size()));
     }
     sim_pty line(bus);
     if (!line.open()) {
@@ -283,20 +284,33 @@ int main(int argc, char *argv[]) {
     const QString given = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
     const QString program = given.isEmpty() ? QStringLiteral(LUMIVOX_EXE) : given;
     const int measure_ms = argc > 2 ? QString::fromLocal8Bit(argv[2]).toInt() : 10000;
-    // Device counts to run, "1,8,19" by default.
-    QList<int> counts;
-    for (const QString &n : QString::fromLocal8Bit(argc > 3 ? argv[3] : "1,8,19").split(',')) {
-        if (n.toInt() > 0) {
-            counts.append(n.toInt());
+    const auto numbers = [&](int index, const char *fallback) {
+        QList<int> list;
+        for (const QString &n : QString::fromLocal8Bit(argc > index ? argv[index] : fallback)
+                                    .split(QLatin1Char(','))) {
+            if (n.toInt() > 0) {
+                list.append(n.toInt());
+            }
         }
+        return list;
+    };
+    const QList<int> counts = numbers(3, "1,8,19");
+    const QList<int> types = numbers(4, "14,15,34,38");
+    if (counts.isEmpty() || types.isEmpty()) {
+        std::fprintf(stderr, "bench_program: no device counts or types given\n");
+        return 2;
     }
-
+    QStringList type_names;
+    for (int type : types) {
+        type_names << QString::number(type);
+    }
     std::printf(
-        "program: lumivox polling CW devices (types 14, 15, 34, 38 in turn over CAN ids "
-        "1..n), every request answered; CPU and switches from /proc\n");
+        "program: lumivox polling devices of types %s in turn over CAN ids 1..n, every "
+        "request answered; CPU and switches from /proc\n",
+        qPrintable(type_names.join(QStringLiteral(", "))));
     QList<case_result> results;
     for (int count : qAsConst(counts)) {
-        results.append(measure(program, count, measure_ms));
+        results.append(measure(program, count, types, measure_ms));
     }
     if (results.size() > 1 && results.first().ok && results.last().ok) {
         const double added =

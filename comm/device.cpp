@@ -11,30 +11,40 @@
 
 #include <mutex>
 
-// The device as the link's thread sees it. The lock is held while a line is tested and passed on,
-// and by the destructor while it withdraws the device, so the link never touches a device being
-// deleted.
+// The device as the link's thread sees it: null once the device is being deleted.
 struct device::line_gate {
-    std::mutex lock;
     device *owner = nullptr;
 };
+
+namespace {
+
+// Held by the link's thread while it hands a line to a device, and by the GUI thread while it
+// creates a device, makes it listen or withdraws it. So the link never touches a device being
+// deleted, and what the GUI thread set up is visible to the link's thread, also to the thread
+// sanitizer, which cannot see Qt's own locks. One lock for all devices: only the link's thread
+// takes it while the program polls.
+std::mutex gates_lock;
+
+}  // namespace
 
 device::device(QWidget *host, const panel_registry *registry)
     : host_(host),
       registry_(registry ? registry : &panel_registry::instance()),
       gate_(std::make_shared<line_gate>()) {
-    gate_->owner = this;
-    connect(this, &device::sig_line_taken, this, &device::sl_d_data_received, Qt::QueuedConnection);
+    {
+        std::lock_guard<std::mutex> publishing(gates_lock);
+        gate_->owner = this;
+    }
     moveToThread(worker_.thread());
 }
 
 device::~device() {
     {
-        std::lock_guard<std::mutex> withdrawing(gate_->lock);
+        std::lock_guard<std::mutex> withdrawing(gates_lock);
         gate_->owner = nullptr;
-    }
-    for (const QMetaObject::Connection &c : qAsConst(listening_)) {
-        disconnect(c);
+        for (const QMetaObject::Connection &c : qAsConst(listening_)) {
+            disconnect(c);
+        }
     }
     // The panel belongs to the GUI thread, as does the caller.
     delete current_panel_.data();
@@ -42,23 +52,20 @@ device::~device() {
 }
 
 void device::listen_to(serial_connector *link) {
-    // A direct connection: the filter runs in the link's thread as the line is emitted. It holds
-    // the gate, not the device, so it outlives a deleted device harmlessly.
+    // A direct connection, so the line is handled in the link's thread as it is emitted: a queued
+    // one would wake every device's thread for every line. The connection holds the gate, not the
+    // device, so it outlives a deleted device harmlessly.
+    std::lock_guard<std::mutex> setting_up(gates_lock);
     const std::shared_ptr<line_gate> gate = gate_;
     listening_.append(connect(
         link, &serial_connector::sig_parse_received_message, link,
         [gate](const QString &line) {
-            std::lock_guard<std::mutex> passing(gate->lock);
-            if (gate->owner && gate->owner->takes(frame_codec::parse(line))) {
-                emit gate->owner->sig_line_taken(line);
+            std::lock_guard<std::mutex> handling(gates_lock);
+            if (gate->owner) {
+                gate->owner->sl_d_data_received(line);
             }
         },
         Qt::DirectConnection));
-}
-
-bool device::takes(const frame_codec::parsed_line &frame) const {
-    return frame.is_frame &&
-           frame_codec::accepts(frame.sender, can_id_.load(), accept_any_sender_.load());
 }
 
 void device::tick() {
@@ -98,7 +105,8 @@ void device::rebuild_panel() {
     panel->set_can_id_source(&can_id_);
     panel->set_display_name(name_);
 
-    connect(this, &device::sig_parsed_data_received, panel, &device_panel::sl_parsed_data_received);
+    connect(this, &device::sig_parsed_data_received, panel,
+            &device_panel::sl_parsed_data_received);
     // Direct: the panel's frame is composed in the GUI thread, where the panel sends it, and goes
     // to the serial link in one queued hop instead of two; the emission state is an atomic store.
     // Neither touches anything of the device's thread.
@@ -119,7 +127,8 @@ void device::rebuild_panel() {
 
 void device::sl_d_data_received(QString line) {
     const frame_codec::parsed_line frame = frame_codec::parse(line);
-    if (!takes(frame)) {
+    if (!frame.is_frame ||
+        !frame_codec::accepts(frame.sender, can_id_.load(), accept_any_sender_.load())) {
         return;
     }
     no_answer_counter_.store(0);

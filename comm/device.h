@@ -1,7 +1,6 @@
 #pragma once
 
 #include "can_command_factory.h"
-#include "frame_codec.h"
 #include "worker_thread.h"
 
 #include <QPointer>
@@ -19,9 +18,10 @@ class serial_connector;
 // turns the panel's (code, value) commands into frames and the answers for its address back into
 // (code, value) pairs, keeps the emission state for the main window and notices silence.
 //
-// The object lives in a thread of its own, where received answers are parsed; tick(), the panel
-// rebuild and the composing of the panel's frames run in the GUI thread, and the filter of
-// listen_to() in the serial link's. Fields read on one side and written on the other are atomic.
+// The object lives in a thread of its own, where queued calls of its slots run. In the program
+// nothing needs that thread per request: tick(), the panel rebuild and the composing of the
+// panel's frames run in the GUI thread, and the lines of listen_to() are parsed in the serial
+// link's thread. Fields read on one side and written on the other are atomic.
 class device : public can_command_factory {
     Q_OBJECT
 public:
@@ -41,10 +41,10 @@ public:
     // One step of the polling cycle for this device (GUI thread).
     void tick();
 
-    // Takes the lines `link` receives. Each line is looked at in the link's thread and passed into
-    // this device's thread only when it is a frame from a sender this device takes (the test that
-    // sl_d_data_received() makes again), so an answer wakes the thread of the device it is for and
-    // no other. The device may be deleted at any time, lines arriving or not.
+    // Takes the lines `link` receives: sl_d_data_received() runs in the link's thread as each line
+    // is emitted, and passes the answers from the senders this device takes to the panel. A
+    // received line thus wakes no device thread, only the GUI thread when it is an answer. The
+    // device may be deleted at any time, lines arriving or not.
     void listen_to(serial_connector *link);
 
     int type_id() const { return type_id_.load(); }
@@ -70,21 +70,18 @@ signals:
     void sig_refresh_state();
     void sig_send_command(QString frame);
     void sig_parsed_data_received(int code, long value);
-    // A line that listen_to() lets through, on its way into the device's thread.
-    void sig_line_taken(QString line);
 
 public slots:
+    // Thread-safe: called in the device's thread (queued) or in the link's (listen_to()).
     void sl_d_data_received(QString line);
     void sl_w_send_command(int code, long value);
     void upd_emission_state(int state);
 
 private:
-    // What the filter of listen_to() holds of the device, shared with the link's thread.
+    // What listen_to() holds of the device, shared with the link's thread.
     struct line_gate;
 
     void rebuild_panel();
-    // Whether a received line is an answer for this device (any thread).
-    bool takes(const frame_codec::parsed_line &frame) const;
 
     std::atomic<int> type_id_{-1};
     int previous_type_id_ = -1;  // GUI thread only

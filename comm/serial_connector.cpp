@@ -200,4 +200,6 @@ void serial_connector::sl_send_string(QString text) {
     QByteArray bytes = text.toUtf8();
     bytes.append("\r\n", 2);
     port_->write(bytes);
+    // Out now rather than on the port's next turn of the event loop: one turn less per frame.
+    port_->flush();
 }

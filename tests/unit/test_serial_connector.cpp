@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QtTest>
 
 #include <pthread.h>
@@ -34,37 +35,14 @@ double thread_cpu_ms(serial_connector &link) {
     return ts.tv_sec * 1e3 + ts.tv_nsec / 1e6;
 }
 
-// Records the debug messages of the whole process (the link logs from its own thread) while it
-// exists, as "category: text"; then puts back the previous handler and the default logging rules.
-class message_capture {
-public:
-    message_capture() { previous_ = qInstallMessageHandler(&message_capture::record); }
-    ~message_capture() {
-        qInstallMessageHandler(previous_);
-        QLoggingCategory::setFilterRules(QString());
-        std::lock_guard<std::mutex> hold(lock());
-        messages().clear();
-    }
-    static QStringList taken() {
-        std::lock_guard<std::mutex> hold(lock());
-        return messages();
-    }
-
-private:
-    static void record(QtMsgType, const QMessageLogContext &context, const QString &text) {
-        std::lock_guard<std::mutex> hold(lock());
-        messages() << QLatin1String(context.category) + QStringLiteral(": ") + text;
-    }
-    static std::mutex &lock() {
-        static std::mutex m;
-        return m;
-    }
-    static QStringList &messages() {
-        static QStringList m;
-        return m;
-    }
-    QtMessageHandler previous_ = nullptr;
-};
+// Every message of the process while a test captures them, as "category: text" (the link logs
+// from its own thread).
+std::mutex captured_lock;
+QStringList captured;
+void capture(QtMsgType, const QMessageLogContext &context, const QString &text) {
+    std::lock_guard<std::mutex> hold(captured_lock);
+    captured << QLatin1String(context.category) + QStringLiteral(": ") + text;
+}
 
 // How many descriptors of this process refer to `path`.
 int descriptors_open_on(const QString &path) {
@@ -208,7 +186,12 @@ private slots:
         QFETCH(QString, rules);
         QFETCH(bool, option);
         QFETCH(bool, logged);
-        const message_capture capture;
+        const QtMessageHandler previous = qInstallMessageHandler(capture);
+        const auto restore = qScopeGuard([previous] {
+            qInstallMessageHandler(previous);
+            QLoggingCategory::setFilterRules(QString());
+            captured.clear();
+        });
         QLoggingCategory::setFilterRules(rules);
         if (option) {
             serial_connector::enable_wire_log();
@@ -222,8 +205,9 @@ private slots:
         QVERIFY(l.pty.write(answer.toLatin1() + "\r"));
         QVERIFY(l.lines.wait_for(1));
 
+        std::lock_guard<std::mutex> hold(captured_lock);
         QStringList wire;
-        for (const QString &m : message_capture::taken()) {
+        for (const QString &m : qAsConst(captured)) {
             if (m.startsWith(QLatin1String("lumivox.wire: "))) {
                 wire << m.mid(14);
             }
@@ -237,8 +221,7 @@ private slots:
         }
         QCOMPARE(wire, expected);
         // The link's other debug lines are written either way.
-        QVERIFY(message_capture::taken().contains(
-            QStringLiteral("default: serial port is opened SUCCESSFULLY")));
+        QVERIFY(captured.contains(QStringLiteral("default: serial port is opened SUCCESSFULLY")));
     }
 
     void connect_while_open_reopens() {
