@@ -132,7 +132,6 @@ private slots:
         row("picker 33.3 % truncated", 5, "enter dsb_ampl 33.3", "(17,5464)");
         row("picker divider", 5, "enter dsb_divider 7", "(18,7)");
         row("picker reported 0 is Open", 5, "rows; report 144 0", "", "l_mode=Open|mode=Open");
-        row("picker reported 1 is Close", 5, "report 144 1", "", "l_mode=Close");
         row("picker Divide: no burst sizes", 5, "report 144 2; press dsb_gate; press dsb_cut", "",
             "l_mode=Divide|dsb_gate=disabled|dsb_cut=disabled");
         row("picker Burst: burst sizes", 5, "report 144 3; enter dsb_gate 5; enter dsb_cut 9",
@@ -152,12 +151,10 @@ private slots:
         row("comb bias switch", 17, "click pb_on_off_bias", "(32,1)");
         row("comb has no power mode", 17, "report 164 3; enter spin 12.39", "(17,123)",
             "spin_label=Drive current");
-        row("comb temperature", 17, "enter spin_temp 25.5", "(18,255)");
         row("comb negative readings", 17,
             "report 152 -250; report 153 -42; report 146 -50; report 160 1", "",
             "l_bias_voltage=2.50 V|l_bias_current=-4.2 mA|temp_label=-5.0 °C|l_bias_state=On|"
             "pb_on_off_bias=on");
-        row("comb TEC current offset", 17, "report 180 2500", "", "l_tec_current=0.00 A");
         row("comb TEC current -2.5 A", 17, "report 180 0", "", "l_tec_current=-2.50 A");
         row("comb limits by its own positions, first sync with the bias", 17,
             "rows 37:5000 38:100 55:350 54:150; report 164 3; report 145 1234; report 146 251; "
