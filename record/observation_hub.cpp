@@ -82,7 +82,9 @@ void observation_hub::connectNotify(const QMetaMethod &signal) {
 
 void observation_hub::disconnectNotify(const QMetaMethod &signal) {
     // Also called with an invalid method when everything is disconnected at once.
+    // A listener being destroyed disconnects while Qt holds its connection lock, and asking
+    // isSignalConnected() then could wait on that same lock: look again once the call is over.
     if (!signal.isValid() || signal == QMetaMethod::fromSignal(&observation_hub::sig_sample)) {
-        follow_listeners();
+        QMetaObject::invokeMethod(this, &observation_hub::follow_listeners, Qt::QueuedConnection);
     }
 }
