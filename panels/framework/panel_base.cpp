@@ -150,17 +150,17 @@ void panel_base::queue_tec(bool on) {
 
 // --- Receiving --------------------------------------------------------------------------------
 
-void panel_base::bind_reading(const reading_spec &spec, double *field, QLabel *label) {
-    readings_.append(spec);
+void panel_base::bind_reading(const reading_spec &reading, double *field, QLabel *label) {
+    readings_.append(reading);
     if (label) {
-        reserve_text(label, spec.widest_text());
+        reserve_text(label, reading.widest_text());
     }
-    bind_reply(spec.code, [this, spec, field, label](long value) {
-        *field = spec.value(value);
+    bind_reply(reading.code, [this, reading, field, label](long value) {
+        *field = reading.value(value);
         if (label) {
-            show_text(label, spec.text(*field));
+            show_text(label, reading.text(*field));
         }
-        observe(panel_observation::reading, spec.quantity, *field, spec.unit);
+        observe(panel_observation::reading, reading.quantity, *field, reading.unit);
     });
 }
 

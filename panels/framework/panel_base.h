@@ -119,10 +119,10 @@ protected:
     void set_dialog_hint(const QString &hint) { dialog_hint_ = hint; }
     void set_dialog_unknown_text(const QString &text) { dialog_unknown_text_ = text; }
 
-    // Reply `spec.code` stores value / divisor into `field` and, when given, shows it in `label`
+    // Reply `reading.code` stores value / divisor into `field` and, when given, shows it in `label`
     // (sized once for the reading's widest text). The description also names the reading for the
     // recorder and the trend window.
-    void bind_reading(const reading_spec &spec, double *field, QLabel *label = nullptr);
+    void bind_reading(const reading_spec &reading, double *field, QLabel *label = nullptr);
     // Reply `code` stores the value as it is; a named state is also observed, shown as
     // `text(value)` when that is given.
     void bind_state(int code, int *field, const QString &quantity = {},
