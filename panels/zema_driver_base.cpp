@@ -44,11 +44,11 @@ void zema_driver_base::setup_driver(const widgets &form, const poll_plan &plan) 
                   {w_.on_off_button, w_.start_stop_button_alt}, {emission_code});
     bind_reading({current_code + 128, tr("Current"), tr("A"), current_units_, 2}, &current_,
                  w_.current_ld_label);
-    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1}, &temperature_,
+    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3}, &temperature_,
                  w_.temp_label);
-    bind_reading({input_voltage_code + 128, tr("Input voltage"), tr("V"), 10, 1}, &input_voltage_,
-                 w_.l_input_volt);
-    bind_reading({output_voltage_code + 128, tr("Output voltage"), tr("V"), 10, 1},
+    bind_reading({input_voltage_code + 128, tr("Input voltage"), tr("V"), 10, 1, 3},
+                 &input_voltage_, w_.l_input_volt);
+    bind_reading({output_voltage_code + 128, tr("Output voltage"), tr("V"), 10, 1, 3},
                  &output_voltage_, w_.l_output_volt);
     bind_alarm(alarm_code + 128, driver_alarm_texts(),
                {w_.l_alarm, w_.pb_alarm, w_.pb_alarm_clear});
