@@ -49,6 +49,11 @@ void observation_hub::attach(source &s) {
     s.link = connect(
         s.panel.data(), &panel_base::sig_observed, this,
         [this, can_id = s.can_id, name = s.device, model = s.model](const panel_observation &o) {
+            if (!listened()) {
+                // The last listener was deleted, which the hub is not told.
+                follow_listeners();
+                return;
+            }
             emit sig_sample(device_sample{now_(), can_id, name, model, o.kind, o.quantity, o.value,
                                           o.unit, o.text});
         });
