@@ -1,9 +1,11 @@
 #include "main_window.h"
 
 #include "device_panel.h"
-#include "observation_hub.h"
+#include "frame_codec.h"
 #include "panel_registry.h"
 #include "serial_connector.h"
+#include "settings_file.h"
+#include "observation_hub.h"
 #include "trend_window.h"
 #include "ui_main_window.h"
 
@@ -58,8 +60,9 @@ const brand_look brand_looks[] = {
 // The generic build's header grows to hold its taller logo.
 constexpr int generic_header_max_height = 107;
 
-constexpr int min_can_id = 1;
-constexpr int max_can_id = 255;
+// The device table's CAN ID range.
+constexpr int min_can_id = settings_file::table_min_can_id;
+constexpr int max_can_id = settings_file::table_max_can_id;
 
 QString key(const char *prefix, int n) {
     return QLatin1String(prefix) + QString::number(n);
@@ -97,8 +100,15 @@ main_window::main_window(const QString &brand, const panel_registry *registry, Q
     ui->device_table->installEventFilter(this);
     show_emission(false);
 
+    // The polling cycle runs while the port is open, as the link's send-now pulse (sl_sender())
+    // would run it; the state is read directly, so a tick costs no round trip through the link's
+    // thread.
     poll_timer_ = new QTimer(this);
-    connect(poll_timer_, &QTimer::timeout, serial_, &serial_connector::sl_sender);
+    connect(poll_timer_, &QTimer::timeout, this, [this] {
+        if (serial_->polling_ready()) {
+            sl_tearing();
+        }
+    });
     poll_timer_->start(poll_interval_ms);
 
     installEventFilter(this);
@@ -156,30 +166,27 @@ QList<main_window::port_entry> main_window::system_ports() {
     return ports;
 }
 
-// ---- Configuration file and device table
-// ---------------------------------------------------------
+// ---- Configuration file and device table --------------------------------------------------------
 
 void main_window::initialise_from_config() {
-    QSettings settings(config_file, QSettings::IniFormat);
+    const settings_file::contents stored = settings_file::read(config_file);
+    if (!stored.problems.isEmpty()) {
+        keep_unusable_file(stored.problems);
+    }
 
     ui->device_table->setColumnCount(2);
     ui->device_table->setHorizontalHeaderLabels({tr("CAN ID"), tr("Device name")});
     ui->device_table->horizontalHeader()->setStretchLastSection(true);
 
-    const QString port = settings.value(QStringLiteral("prev_port")).toString();
-    if (!port.isEmpty()) {
-        qDebug() << "saved writed" << port;
-        serial_->set_port_name(port);
+    if (!stored.prev_port.isEmpty()) {
+        qDebug() << "saved writed" << stored.prev_port;
+        serial_->set_port_name(stored.prev_port);
     }
 
-    const int count = settings.value(QStringLiteral("device_count")).toInt();
-    if (count > 0) {
-        ui->mini_usb_mode_checkbox->setChecked(
-            settings.value(QStringLiteral("mini_usb_mode")).toBool());
-        for (int n = 0; n < count; ++n) {
-            const QString name = settings.value(key("name_device_", n)).toString();
-            const int can_id = settings.value(key("device_", n)).toInt();
-            create_device(can_id, name, n);
+    if (!stored.devices.isEmpty()) {
+        ui->mini_usb_mode_checkbox->setChecked(stored.mini_usb_mode);
+        for (int n = 0; n < stored.devices.size(); ++n) {
+            create_device(stored.devices.at(n).can_id, stored.devices.at(n).name, n);
         }
     } else {
         // First run (or an unusable file): one device at CAN ID 1, reached through mini USB.
@@ -190,7 +197,7 @@ void main_window::initialise_from_config() {
         add_table_row(dev->can_id(), dev->name());
     }
 
-    if (settings.value(QStringLiteral("autoconnection_mode")).toBool()) {
+    if (stored.autoconnection_mode) {
         ui->autoconnection_checkbox->setChecked(true);
         on_connect_button_clicked();
     }
@@ -202,7 +209,33 @@ void main_window::initialise_from_config() {
                                QStringLiteral(" "));
 }
 
+void main_window::keep_unusable_file(const QStringList &problems) {
+    const QString path = QFileInfo(config_file).absoluteFilePath();
+    QString error;
+    const QString copy = settings_file::keep_copy(config_file, &error);
+    QString kept;
+    if (copy.isEmpty()) {
+        // Without a copy the file as written exists nowhere else: closing leaves it alone.
+        keep_file_ = true;
+        kept = QStringLiteral("no copy could be made (%1), so closing will not overwrite it")
+                   .arg(error);
+    } else {
+        kept = QStringLiteral("it is kept as it was in \"%1\"").arg(copy);
+    }
+    qWarning().noquote() << QStringLiteral(
+                                "configuration file \"%1\" cannot be used as written: %2; %3")
+                                .arg(path, problems.join(QStringLiteral("; ")), kept);
+}
+
 void main_window::save_config() const {
+    const QString path = QFileInfo(config_file).absoluteFilePath();
+    if (keep_file_) {
+        qWarning().noquote() << QStringLiteral(
+                                    "configuration file \"%1\" not saved: it could not be read "
+                                    "as written and no copy of it could be made")
+                                    .arg(path);
+        return;
+    }
     QDir().mkpath(QFileInfo(config_file).path());
     QSettings settings(config_file, QSettings::IniFormat);
     settings.clear();
@@ -216,6 +249,10 @@ void main_window::save_config() const {
         settings.setValue(key("name_device_", n), devices_.at(n)->name());
     }
     settings.sync();
+    if (settings.status() != QSettings::NoError) {
+        qWarning().noquote() << QStringLiteral("configuration file \"%1\" could not be saved: %2")
+                                    .arg(path, settings_file::write_failure_reason(config_file));
+    }
 }
 
 void main_window::create_device(int can_id, const QString &name, int slot) {
@@ -225,10 +262,21 @@ void main_window::create_device(int can_id, const QString &name, int slot) {
     // The mode counts when the device is created; ticking the box later changes nothing here.
     dev->set_accept_any_sender(ui->mini_usb_mode_checkbox->isChecked());
     dev->set_slot(slot);
-    connect(dev, &device::sig_send_command, serial_, &serial_connector::sl_send_string);
+    if (frame_codec::carries_can_id(can_id)) {
+        connect(dev, &device::sig_send_command, serial_, &serial_connector::sl_send_string);
+    } else {
+        // Its frames would be malformed: the device stays in the table and the file, never
+        // reaches the link and is never ticked.
+        qWarning().noquote() << QStringLiteral(
+                                    "device \"%1\" (table row %2) has CAN ID %3, which no frame "
+                                    "can carry (0 to 0x%4): it sends nothing")
+                                    .arg(name)
+                                    .arg(slot + 1)
+                                    .arg(can_id)
+                                    .arg(frame_codec::max_can_id, 0, 16);
+    }
     connect(dev, &device::sig_change_ui_widget, this, &main_window::sl_change_ui_widget);
-    connect(serial_, &serial_connector::sig_parse_received_message, dev,
-            &device::sl_d_data_received);
+    dev->listen_to(serial_);
 
     auto *container = new QWidget;
     auto *layout = new QVBoxLayout(container);
@@ -315,8 +363,7 @@ void main_window::on_mini_usb_mode_checkbox_stateChanged(int arg1) {
     ui->delete_row_pb->setEnabled(!on);
 }
 
-// ---- Pages
-// ----------------------------------------------------------------------------------------
+// ---- Pages --------------------------------------------------------------------------------------
 
 void main_window::show_page(int index) {
     ui->stackedWidget->setCurrentIndex(index);
@@ -337,8 +384,7 @@ void main_window::on_main_menu_butt_3_clicked() {
     show_page(2);
 }
 
-// ---- Serial port
-// ----------------------------------------------------------------------------------
+// ---- Serial port --------------------------------------------------------------------------------
 
 void main_window::on_serial_refresh_button_clicked() {
     QComboBox *combo = ui->serial_combo_box;
@@ -412,16 +458,20 @@ void main_window::reconnect_due() {
     }
 }
 
-// ---- Polling cycle
-// --------------------------------------------------------------------------------
+// ---- Polling cycle ------------------------------------------------------------------------------
 
 void main_window::sl_tearing() {
-    if (!devices_.isEmpty()) {
+    // The next device in round-robin order that can send; one whose CAN ID no frame carries is
+    // passed over, so the others keep their pace.
+    for (int tried = 0; tried < devices_.size(); ++tried) {
         if (tearing_index_ > devices_.size() - 1) {
             tearing_index_ = 0;
         }
-        devices_.at(tearing_index_)->tick();
-        ++tearing_index_;
+        device *dev = devices_.at(tearing_index_++);
+        if (frame_codec::carries_can_id(dev->can_id())) {
+            dev->tick();
+            break;
+        }
     }
     int emission_sum = 0;
     for (const device *dev : qAsConst(devices_)) {
@@ -460,8 +510,7 @@ trend_window *main_window::open_trends() {
     return trends_;
 }
 
-// ---- TTL tester
-// -----------------------------------------------------------------------------------
+// ---- TTL tester ---------------------------------------------------------------------------------
 
 void main_window::on_pushButton_clicked() {
     emit sig_send_command(QStringLiteral("FREQ_TTL ") +
@@ -485,8 +534,7 @@ void main_window::on_pushButton_3_clicked() {
     }
 }
 
-// ---- Events
-// ---------------------------------------------------------------------------------------
+// ---- Events -------------------------------------------------------------------------------------
 
 bool main_window::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Wheel) {

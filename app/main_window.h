@@ -54,9 +54,10 @@ public:
     ~main_window() override;
 
     // Reads the configuration file, creates the devices, fills the device table, starts the
-    // automatic connection if it is on, fills the port list and sets the version label.
+    // automatic connection if it is on, fills the port list and sets the version label. A file it
+    // cannot use as written is first kept beside itself, and a warning says why and where.
     void initialise_from_config();
-    // Writes the configuration file (done on every close).
+    // Writes the configuration file (done on every close); a failure is reported as a warning.
     void save_config() const;
 
     void set_port_lister(port_lister lister);
@@ -104,6 +105,7 @@ protected:
 
 private:
     void apply_brand();
+    void keep_unusable_file(const QStringList &problems);
     void show_page(int index);
     void create_device(int can_id, const QString &name, int slot);
     void delete_devices();
@@ -125,6 +127,9 @@ private:
     port_lister list_ports_;
     QTimer *reconnect_timer_ = nullptr;
     QElapsedTimer last_attempt_;
+    // Set when the file could not be used as written and no copy of it could be made: closing must
+    // not overwrite the only record of the operator's devices.
+    bool keep_file_ = false;
     observation_hub *observations_ = nullptr;
     QPointer<trend_window> trends_;
 };

@@ -5,6 +5,7 @@
 #include "observation_hub.h"
 #include "panel_registry.h"
 #include "panels.h"
+#include "serial_connector.h"
 #include "recorder.h"
 #include "translation.h"
 #include "trend_window.h"
@@ -53,8 +54,10 @@ void quit_on_signal(QObject *parent) {
     action.sa_handler = on_quit_signal;
     sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
+    // SIGHUP too: a closed terminal or an ended session must not lose the device table.
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        sigaction(number, &action, nullptr);
+    }
 }
 
 void prepare_program(QApplication &app, QTranslator &translator) {
@@ -86,7 +89,12 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
         QCoreApplication::translate("program",
                                     "Open the trend window with the main window; with <file>, "
                                     "show that recording alone."));
-    parser.addOptions({record, trends});
+    // Frames on the wire go to the debug log only when asked: at full rate they are most of it.
+    const QCommandLineOption log_wire(
+        QStringLiteral("log-wire"),
+        QCoreApplication::translate(
+            "program", "Write every frame sent and every line received to the debug log."));
+    parser.addOptions({record, trends, log_wire});
     parser.addPositionalArgument(
         QStringLiteral("file"), QCoreApplication::translate("program", "A recording for --trends."),
         QStringLiteral("[file]"));
@@ -119,6 +127,9 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
             remembered.setValue(record_key, QFileInfo(dir).absoluteFilePath());
         }
         remembered.sync();
+    }
+    if (parser.isSet(log_wire)) {
+        serial_connector::enable_wire_log();
     }
     options->record_dir = remembered.value(record_key).toString();
     options->trends = parser.isSet(trends);

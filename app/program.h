@@ -15,11 +15,12 @@ class recorder;
 // and quitting on signals (below).
 void prepare_program(QApplication &app, QTranslator &translator);
 
-// Makes SIGINT and SIGTERM close the program as the window's close button does: every top-level
-// window is closed (the main window saves the configuration file), then the event loop ends and the
-// worker threads are stopped on the way out, so the exit code is 0. The signal handler only writes
-// one byte to a pipe; the closing happens in the GUI thread, which watches the pipe. Call once,
-// after the application object exists; `parent` owns the watcher.
+// Makes SIGINT, SIGTERM and SIGHUP (terminal closed, session ended) close the program as the
+// window's close button does: every top-level window is closed (the main window saves the
+// configuration file), then the event loop ends and the worker threads are stopped on the way out,
+// so the exit code is 0. The signal handler only writes one byte to a pipe; the closing happens in
+// the GUI thread, which watches the pipe. Call once, after the application object exists; `parent`
+// owns the watcher.
 void quit_on_signal(QObject *parent);
 
 // What the command line asks of this run.

@@ -3,20 +3,69 @@
 #include "device_panel.h"
 #include "frame_codec.h"
 #include "panel_registry.h"
+#include "serial_connector.h"
 
 #include <QDebug>
 #include <QFrame>
 #include <QLayout>
 
+#include <mutex>
+
+// The device as the link's thread sees it: null once the device is being deleted.
+struct device::line_gate {
+    device *owner = nullptr;
+};
+
+namespace {
+
+// Held by the link's thread while it hands a line to a device, and by the GUI thread while it
+// creates a device, makes it listen or withdraws it. So the link never touches a device being
+// deleted, and what the GUI thread set up is visible to the link's thread, also to the thread
+// sanitizer, which cannot see Qt's own locks. One lock for all devices: only the link's thread
+// takes it while the program polls.
+std::mutex gates_lock;
+
+}  // namespace
+
 device::device(QWidget *host, const panel_registry *registry)
-    : host_(host), registry_(registry ? registry : &panel_registry::instance()) {
+    : host_(host),
+      registry_(registry ? registry : &panel_registry::instance()),
+      gate_(std::make_shared<line_gate>()) {
+    {
+        std::lock_guard<std::mutex> publishing(gates_lock);
+        gate_->owner = this;
+    }
     moveToThread(worker_.thread());
 }
 
 device::~device() {
+    {
+        std::lock_guard<std::mutex> withdrawing(gates_lock);
+        gate_->owner = nullptr;
+        for (const QMetaObject::Connection &c : qAsConst(listening_)) {
+            disconnect(c);
+        }
+    }
     // The panel belongs to the GUI thread, as does the caller.
     delete current_panel_.data();
     worker_.stop();
+}
+
+void device::listen_to(serial_connector *link) {
+    // A direct connection, so the line is handled in the link's thread as it is emitted: a queued
+    // one would wake every device's thread for every line. The connection holds the gate, not the
+    // device, so it outlives a deleted device harmlessly.
+    std::lock_guard<std::mutex> setting_up(gates_lock);
+    const std::shared_ptr<line_gate> gate = gate_;
+    listening_.append(connect(
+        link, &serial_connector::sig_parse_received_message, link,
+        [gate](const QString &line) {
+            std::lock_guard<std::mutex> handling(gates_lock);
+            if (gate->owner) {
+                gate->owner->sl_d_data_received(line);
+            }
+        },
+        Qt::DirectConnection));
 }
 
 void device::tick() {
@@ -58,8 +107,13 @@ void device::rebuild_panel() {
 
     connect(this, &device::sig_parsed_data_received, panel,
             &device_panel::sl_parsed_data_received);
-    connect(panel, &device_panel::sig_w_send_command, this, &device::sl_w_send_command);
-    connect(panel, &device_panel::send_emission, this, &device::upd_emission_state);
+    // Direct: the panel's frame is composed in the GUI thread, where the panel sends it, and goes
+    // to the serial link in one queued hop instead of two; the emission state is an atomic store.
+    // Neither touches anything of the device's thread.
+    connect(panel, &device_panel::sig_w_send_command, this, &device::sl_w_send_command,
+            Qt::DirectConnection);
+    connect(panel, &device_panel::send_emission, this, &device::upd_emission_state,
+            Qt::DirectConnection);
     emit sig_change_ui_widget(this, slot_);
 
     if (panel->layout()) {

@@ -7,17 +7,21 @@
 #include <QString>
 
 #include <atomic>
+#include <memory>
 
 class QWidget;
 class device_panel;
 class panel_registry;
+class serial_connector;
 
 // One CAN address of the device table. Learns the device type, builds the panel that belongs to it,
 // turns the panel's (code, value) commands into frames and the answers for its address back into
 // (code, value) pairs, keeps the emission state for the main window and notices silence.
 //
-// The object lives in a thread of its own (parsing and composing run there); tick() and the panel
-// rebuild run in the GUI thread. Fields read on one side and written on the other are atomic.
+// The object lives in a thread of its own, where queued calls of its slots run. In the program
+// nothing needs that thread per request: tick(), the panel rebuild and the composing of the
+// panel's frames run in the GUI thread, and the lines of listen_to() are parsed in the serial
+// link's thread. Fields read on one side and written on the other are atomic.
 class device : public can_command_factory {
     Q_OBJECT
 public:
@@ -36,6 +40,12 @@ public:
 
     // One step of the polling cycle for this device (GUI thread).
     void tick();
+
+    // Takes the lines `link` receives: sl_d_data_received() runs in the link's thread as each line
+    // is emitted, and passes the answers from the senders this device takes to the panel. A
+    // received line thus wakes no device thread, only the GUI thread when it is an answer. The
+    // device may be deleted at any time, lines arriving or not.
+    void listen_to(serial_connector *link);
 
     int type_id() const { return type_id_.load(); }
     int previous_type_id() const { return previous_type_id_; }
@@ -62,11 +72,15 @@ signals:
     void sig_parsed_data_received(int code, long value);
 
 public slots:
+    // Thread-safe: called in the device's thread (queued) or in the link's (listen_to()).
     void sl_d_data_received(QString line);
     void sl_w_send_command(int code, long value);
     void upd_emission_state(int state);
 
 private:
+    // What listen_to() holds of the device, shared with the link's thread.
+    struct line_gate;
+
     void rebuild_panel();
 
     std::atomic<int> type_id_{-1};
@@ -81,5 +95,7 @@ private:
     QWidget *host_ = nullptr;
     QPointer<device_panel> current_panel_;
     const panel_registry *registry_ = nullptr;
+    std::shared_ptr<line_gate> gate_;
+    QList<QMetaObject::Connection> listening_;  // GUI thread only
     worker_thread worker_{QStringLiteral("device")};
 };

@@ -15,6 +15,13 @@ inline constexpr int host_address = 0x22;
 // Number of leading characters of a frame text that the checksum covers ("t" to the last value digit).
 inline constexpr int checksum_span = 21;
 
+// The highest identifier a standard frame carries (11 bits, three hex digits in the text). A device
+// at any other id would send malformed frames, so it sends none.
+inline constexpr int max_can_id = 0x7FF;
+inline constexpr bool carries_can_id(int can_id) {
+    return can_id >= 0 && can_id <= max_can_id;
+}
+
 using crc_table_t = std::array<quint16, 256>;
 
 // Builds the CRC-16/MODBUS lookup table: each index is bit-reversed, run through sixteen steps of

@@ -1,9 +1,21 @@
 #include "serial_connector.h"
 
+#include "line_cutter.h"
+
 #include <QDebug>
 #include <QMutexLocker>
 
 #include <poll.h>
+
+// Deliberately off by default (debug and below), unlike the link's other debug lines: with them,
+// every frame written and every line received would go to the debug log, two lines per request
+// at full polling rate.
+Q_LOGGING_CATEGORY(wire_log, "lumivox.wire", QtInfoMsg)
+
+void serial_connector::enable_wire_log() {
+    QLoggingCategory::setFilterRules(QLatin1String(wire_log().categoryName()) +
+                                     QLatin1String(".debug=true"));
+}
 
 serial_connector::serial_connector(QObject *parent) : QObject(parent) {
     moveToThread(worker_.thread());
@@ -20,6 +32,7 @@ void serial_connector::release_port() {
         delete port_;
         port_ = nullptr;
     }
+    publish_state();
 }
 
 QString serial_connector::port_name() const {
@@ -51,10 +64,15 @@ void serial_connector::replace_port(QSerialPort *port) {
     }
     port_ = port;
     buffer_.clear();
+    publish_state();
 }
 
 bool serial_connector::port_ready() const {
     return port_ && port_->isOpen() && port_->isWritable();
+}
+
+void serial_connector::publish_state() {
+    polling_ready_.store(port_ready());
 }
 
 void serial_connector::sl_serial_connect(QString name) {
@@ -69,6 +87,7 @@ void serial_connector::sl_serial_connect(QString name) {
         emit sig_disconnected();
         return;
     }
+    publish_state();
     port_->flush();
     port_->clear(QSerialPort::AllDirections);
 
@@ -92,6 +111,7 @@ void serial_connector::sl_serial_reconnect() {
     if (port_) {
         port_->close();
     }
+    publish_state();
     qDebug() << "serial port DISONNECTED by soft";
 }
 
@@ -119,6 +139,7 @@ void serial_connector::sl_serial_handle_error(QSerialPort::SerialPortError error
         return;
     }
     port_->close();
+    publish_state();
     buffer_.clear();
     emit sig_disconnected();
     qDebug() << "serial port DISONNECTED by error";
@@ -128,6 +149,7 @@ void serial_connector::sl_serial_disconnect() {
     if (port_) {
         port_->close();
     }
+    publish_state();
     buffer_.clear();
     emit sig_disconnected();
 }
@@ -160,33 +182,24 @@ void serial_connector::sl_data_received() {
     while (port_->isOpen() && port_->bytesAvailable() > 0) {
         const QByteArray chunk = port_->readLine();
         bytes_received_.fetch_add(chunk.size());
-        buffer_.append(chunk);
-        if (buffer_.contains('\r')) {
-            // Every piece closed by a carriage return is a line; text after the last one is
-            // discarded with the buffer.
-            QList<QByteArray> pieces = buffer_.split('\r');
-            pieces.removeLast();
-            buffer_.clear();
-            for (const QByteArray &piece : qAsConst(pieces)) {
-                if (!piece.isEmpty()) {
-                    const QString line = QString::fromUtf8(piece);
-                    qDebug().noquote() << line;
-                    emit sig_parse_received_message(line);
-                }
-            }
+        const QList<QByteArray> lines = line_cutter::append(buffer_, chunk);
+        for (const QByteArray &piece : lines) {
+            const QString line = QString::fromUtf8(piece);
+            qCDebug(wire_log).noquote() << line;
+            emit sig_parse_received_message(line);
         }
     }
-    if (buffer_.size() > max_buffered_bytes) {
-        buffer_.clear();
-    }
+    line_cutter::bound(buffer_, max_buffered_bytes);
 }
 
 void serial_connector::sl_send_string(QString text) {
     if (!port_ready()) {
         return;
     }
-    qDebug().noquote() << text;
+    qCDebug(wire_log).noquote() << text;
     QByteArray bytes = text.toUtf8();
     bytes.append("\r\n", 2);
     port_->write(bytes);
+    // Out now rather than on the port's next turn of the event loop: one turn less per frame.
+    port_->flush();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLoggingCategory>
 #include <QMutex>
 #include <QObject>
 #include <QSerialPort>
@@ -9,6 +10,12 @@
 #include "worker_thread.h"
 
 #include <atomic>
+
+// Every frame the link writes and every line it receives, one debug line each. Off by default:
+// at full polling rate that is two lines per request, tens of megabytes of debug log an hour, and
+// writing them costs more than the polling itself. The operator switches it on with the program's
+// "--log-wire" option or with QT_LOGGING_RULES="lumivox.wire.debug=true".
+Q_DECLARE_LOGGING_CATEGORY(wire_log)
 
 // Owns the serial port to the USB-to-CAN adapter, in a thread of its own. Opens and configures the
 // port, switches the adapter's CAN channel on, writes strings, cuts the received stream into lines
@@ -31,6 +38,15 @@ public:
 
     // Bytes taken from the port since construction (diagnostics; lets tests know a read happened).
     qint64 bytes_received() const { return bytes_received_.load(); }
+
+    // Whether the port is open and writable, as the link's thread last left it: what sl_sender()
+    // checks, readable from any thread. The window's timer reads it to run the polling cycle
+    // without a round trip through the link's thread.
+    bool polling_ready() const { return polling_ready_.load(); }
+
+    // Switches the frame log (wire_log) on for the whole process. Rules given in QT_LOGGING_RULES
+    // still take precedence.
+    static void enable_wire_log();
 
 signals:
     void sig_tearing();
@@ -56,6 +72,8 @@ private:
     bool port_ready() const;
     bool port_hung_up() const;
     void release_port();
+    // Mirrors port_ready() into polling_ready_; called after every change of the port's state.
+    void publish_state();
 
     mutable QMutex name_lock_;
     QString port_name_;
@@ -63,4 +81,5 @@ private:
     QSerialPort *port_ = nullptr;
     QByteArray buffer_;
     std::atomic<qint64> bytes_received_{0};
+    std::atomic<bool> polling_ready_{false};
 };

@@ -11,7 +11,11 @@
 #include <QPushButton>
 
 cw_driver_base::cw_driver_base(QWidget *parent, const resolution &res)
-    : panel_base(parent), res_(res) {}
+    : cw_driver_base(parent, res, limit_positions{}) {}
+
+cw_driver_base::cw_driver_base(QWidget *parent, const resolution &res,
+                               const limit_positions &limits)
+    : panel_base(parent), res_(res), limits_(limits) {}
 
 void cw_driver_base::setup_driver(const widgets &form, const poll_plan &plan,
                                   const parameter_list &parameters) {
@@ -76,24 +80,29 @@ void cw_driver_base::on_chb_tec_clicked(bool checked) {
 void cw_driver_base::refresh_display() {
     if (power_mode()) {
         show_text(w_.spin_label, tr("Optical Power"));
-        show_limits(w_.spin, w_.curr_max_label, w_.curr_min_label, parameter_value(power_max),
-                    parameter_value(power_min), res_.power_decimals);
+        show_limits(w_.spin, w_.curr_max_label, w_.curr_min_label,
+                    parameter_value(limits_.power_max), parameter_value(limits_.power_min),
+                    res_.power_decimals);
     } else {
-        show_text(w_.spin_label, tr("Drive Current"));
-        show_limits(w_.spin, w_.curr_max_label, w_.curr_min_label, parameter_value(current_max),
-                    parameter_value(current_min), res_.current_decimals);
+        // A driver without a power mode keeps its form's caption.
+        if (has_power_mode()) {
+            show_text(w_.spin_label, tr("Drive Current"));
+        }
+        show_limits(w_.spin, w_.curr_max_label, w_.curr_min_label,
+                    parameter_value(limits_.current_max), parameter_value(limits_.current_min),
+                    res_.current_decimals);
     }
     widget_update::set_suffix(w_.spin,
                               power_mode() ? QStringLiteral(" mW") : QStringLiteral(" mA"));
     show_limits(w_.spin_temp, w_.temp_max_label, w_.temp_min_label,
-                parameter_value(temperature_max), parameter_value(temperature_min),
+                parameter_value(limits_.temperature_max), parameter_value(limits_.temperature_min),
                 res_.temperature_decimals);
 
     // The current bar follows the current limits in every mode.
-    show_indicator(w_.indicator, current_, parameter_value(current_min),
-                   parameter_value(current_max));
-    show_indicator(w_.tem_indicator, temperature_, parameter_value(temperature_min),
-                   parameter_value(temperature_max));
+    show_indicator(w_.indicator, current_, parameter_value(limits_.current_min),
+                   parameter_value(limits_.current_max));
+    show_indicator(w_.tem_indicator, temperature_, parameter_value(limits_.temperature_min),
+                   parameter_value(limits_.temperature_max));
 
     if (mode_ >= 0 && mode_ < w_.mode->count()) {
         show_text(w_.mode_label, mode_text(mode_));

@@ -9,10 +9,10 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 
-// What the two continuous-wave driver panels (`cw_panel` and the precision `vtr_cw_1800_zif`)
-// have in common: drive current or optical power by mode, TEC temperature, emission, TEC switch,
-// step size, limits read by position from the parameter list. They differ in their forms, their
-// resolutions and their poll lists.
+// What the continuous-wave driver panels (`cw_panel`, the precision `vtr_cw_1800_zif` and the
+// comb laser driver `comb_laser`) have in common: drive current or optical power by mode, TEC
+// temperature, emission, TEC switch, step size, limits read by position from the parameter list.
+// They differ in their forms, their resolutions, their limit positions and their poll lists.
 class cw_driver_base : public panel_base {
     Q_OBJECT
 public:
@@ -32,14 +32,14 @@ public:
     };
 
     // Parameter positions that bound the set-points; read by position, not by code, so that a
-    // shortened list (type 34) shifts them.
-    enum limit_position : int {
-        current_max = 1,
-        current_min = 2,
-        power_max = 3,
-        power_min = 4,
-        temperature_max = 5,
-        temperature_min = 6,
+    // shortened list (type 34) shifts them. The defaults are the CW driver's list.
+    struct limit_positions {
+        int current_max = 1;
+        int current_min = 2;
+        int power_max = 3;  // -1: the driver has no constant-power mode
+        int power_min = 4;
+        int temperature_max = 5;
+        int temperature_min = 6;
     };
 
     // The widgets of the form, by role.
@@ -122,6 +122,7 @@ public slots:
 
 protected:
     cw_driver_base(QWidget *parent, const resolution &res);
+    cw_driver_base(QWidget *parent, const resolution &res, const limit_positions &limits);
 
     // Binds the form's widgets and the codes common to the family; `parameters` is the panel's
     // list, `plan` its poll list.
@@ -132,13 +133,15 @@ protected:
     QString header_summary() const override;
 
 private:
-    bool power_mode() const { return mode_ == constant_power_mode; }
+    bool has_power_mode() const { return limits_.power_max >= 0; }
+    bool power_mode() const { return has_power_mode() && mode_ == constant_power_mode; }
     // The mode combo's item text for `mode`.
     QString mode_text(int mode) const;
     void confirm_main_setpoint();
 
     widgets w_;
     resolution res_;
+    limit_positions limits_;
     double current_ = -1.0;      // mA
     double power_ = -1.0;        // mW
     double temperature_ = -1.0;  // °C

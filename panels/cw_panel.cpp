@@ -8,7 +8,7 @@ cw_panel::cw_panel(QWidget *parent) : cw_driver_base(parent, resolution{}), ui(n
     poll_plan plan;
     plan.read_codes = {144, 145, 146, 148, 164, 161, alarm_report};
     setup_driver(widgets_of(ui.get()), plan, parameter_table());
-    bind_alarm(alarm_report, alarm_texts(), {ui->l_alarm, ui->pb_alarm});
+    bind_alarm(alarm_report, driver_alarm_texts(), {ui->l_alarm, ui->pb_alarm});
     finish_setup(ui->device_widget);
 }
 
@@ -35,22 +35,6 @@ parameter_list cw_panel::parameter_table() {
         {68, tr("coef. P"), 4, -1.0, 0.1},
         {69, tr("coef. I"), 4, -1.0, 0.1},
         {70, tr("coef. D"), 4, -1.0, 0.1},
-    };
-}
-
-QStringList cw_panel::alarm_texts() {
-    return {
-        QStringLiteral("flag_Rebooted"),
-        QStringLiteral("flag_ALARM_INTERLOCK"),
-        QStringLiteral("flag_Overtemp"),
-        QStringLiteral("flag_OverCurrent"),
-        QStringLiteral("flag_UnderVoltage_IN"),
-        QStringLiteral("flag_OverVoltage_IN"),
-        QStringLiteral("flag_UnderVoltage_OUT"),
-        QStringLiteral("flag_OverCurrent_IND"),
-        tr("Output voltage is higher than 80% of input voltage, \nSOLUTION: increase the input "
-           "voltage"),
-        tr("Output power is close to MAX"),
     };
 }
 

@@ -23,8 +23,6 @@ public:
     static QStringList model_list();
     // The full parameter list; some device types lose entries after construction.
     static parameter_list parameter_table();
-    // Names of alarm bits 0 to 9.
-    static QStringList alarm_texts();
 
     // Shows or hides the operating mode selector with its captions (drivers without modes).
     void set_mode_widgets_visible(bool visible);

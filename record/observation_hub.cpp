@@ -49,11 +49,6 @@ void observation_hub::attach(source &s) {
     s.link = connect(
         s.panel.data(), &panel_base::sig_observed, this,
         [this, can_id = s.can_id, name = s.device, model = s.model](const panel_observation &o) {
-            if (!listened()) {
-                // The last listener was deleted, which the hub is not told.
-                follow_listeners();
-                return;
-            }
             emit sig_sample(device_sample{now_(), can_id, name, model, o.kind, o.quantity, o.value,
                                           o.unit, o.text});
         });
@@ -87,7 +82,9 @@ void observation_hub::connectNotify(const QMetaMethod &signal) {
 
 void observation_hub::disconnectNotify(const QMetaMethod &signal) {
     // Also called with an invalid method when everything is disconnected at once.
+    // A listener being destroyed disconnects while Qt holds its connection lock, and asking
+    // isSignalConnected() then could wait on that same lock: look again once the call is over.
     if (!signal.isValid() || signal == QMetaMethod::fromSignal(&observation_hub::sig_sample)) {
-        follow_listeners();
+        QMetaObject::invokeMethod(this, &observation_hub::follow_listeners, Qt::QueuedConnection);
     }
 }

@@ -5,6 +5,7 @@
 #include <QtGlobal>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 namespace sim {
@@ -249,16 +250,21 @@ device_profile comb_laser() {
     return b.hook(comb_tec_current).done();
 }
 
-// Picosecond driver: drive voltage 24 (0.1 V) ramps after emission, repetition rate 25 in Hz,
-// trigger source 36, TEC 33/18. `emission` and `companion` are the two switch codes the family
-// uses (one of them switches the output, the other is kept as written).
+// Picosecond driver: repetition rate 25 in Hz, trigger source 36 (0 internal, 1 pulse on demand or
+// the module's external trigger, 2 external), TEC 33/18, drive voltage limits 37/38 (0.1 V).
+// `emission` and `companion` are the two switch codes the family uses (one of them switches the
+// output, the other is kept as written).
 builder ps_family(int type, const char *model, int emission, int companion) {
     builder b(type, model);
     b.emission(emission).store(82);
     b.add({plain(companion), plain(25, 100000), plain(36), config(37, 300), config(38, 0)});
     b.temperature_limits(40, 15, 10).thermistor().regulator().tec();
-    b.follow(follower_def::ramp_of(24, 100, emission).limited(37, 38));
     return b;
+}
+
+// The drive voltage 24 (0.1 V) ramps to its set point after emission on.
+void voltage_drive(builder &b, int emission) {
+    b.follow(follower_def::ramp_of(24, 100, emission).limited(37, 38));
 }
 
 // Burst counts: pulses passed (52) and cut (53); the driver bursts while 53 is non-zero.
@@ -273,6 +279,7 @@ void sync_block(builder &b) {
 
 device_profile ps(int type, const char *model) {
     builder b = ps_family(type, model, 32, 34);
+    voltage_drive(b, 32);
     burst_counts(b);
     if (type == 28) {
         sync_block(b);
@@ -280,32 +287,86 @@ device_profile ps(int type, const char *model) {
     return b.done();
 }
 
-// Energy-calibrated picosecond driver: energy set point 60 (0.1 units) ramps up to the max
-// energy row 61; calibration polynomial a3..a0 in rows 56..59 with six decimals.
+// The energy-calibrated driver sets its drive voltage from the pulse energy through its
+// calibration, V = a3·E³ + a2·E² + a1·E + a0 (E as reported, V in volts), held between the
+// voltage limits; no voltage while emission is off.
+void energy_to_voltage(sim_device &d) {
+    qint64 tenths = 0;
+    if (d.value(32) != 0) {
+        const double e = d.value(60) / 10.0;
+        double v = 0;
+        for (int code = 56; code <= 59; ++code) {  // a3 .. a0, six decimals
+            v = v * e + d.value(code) / 1e6;
+        }
+        tenths = qBound<qint64>(d.value(38), std::llround(v * 10), d.value(37));
+    }
+    d.set_measured(24, static_cast<qint32>(tenths));
+}
+
+// Energy-calibrated picosecond driver: energy set point 60 (0.1 units) ramps after emission up to
+// the max energy row 61; calibration a3..a0 in rows 56..59 with six decimals (25 V at 10.0).
 device_profile ps_energy() {
     builder b = ps_family(26, "VTR-PS-BOX", 32, 34);
     burst_counts(b);
-    b.add({config(56, 100), config(57, -2000), config(58, 150000), config(59, 0), config(61, 100)});
+    b.add({fixed(24), config(56, 1000), config(57, -20000), config(58, 2500000),
+           config(59, 1000000), config(61, 100)});
     b.follow(follower_def::ramp_of(60, 50, 32).limited(61, -1));
-    return b.done();
+    return b.hook(energy_to_voltage).done();
+}
+
+// The module warns (alarm bit 9) while its drive voltage is within 5 % of the maximum row.
+void output_near_max(sim_device &d) {
+    constexpr quint32 near_max = 1u << 9;
+    const qint64 max = d.value(37);
+    const bool near = max > 0 && qint64(d.value(24)) * 100 >= max * 95;
+    const quint32 word = quint32(d.value(48));
+    d.set_measured(48, static_cast<qint32>(near ? word | near_max : word & ~near_max));
 }
 
 // Picosecond module: emission on 34 (32 kept as written), alarm word 48, no burst counts.
 device_profile ps_module() {
     builder b = ps_family(35, "KSO-PS-640", 34, 32);
+    voltage_drive(b, 34);
     b.alarm(48);
-    return b.done();
+    return b.hook(output_near_max).done();
+}
+
+// The driver keeps its pulse within 2 % of the period, and within 100 ns under an external
+// trigger: a longer duration is cut to what the rate allows.
+void ns_duty_cycle(sim_device &d) {
+    qint64 limit = 0;  // 0.1 ns
+    if (d.value(36) == 2) {
+        limit = 1000;
+    } else if (d.value(25) > 0) {
+        limit = qMax<qint64>(1, 200000000 / qint64(d.value(25)));  // 0.02 of the period
+    }
+    if (limit > 0 && d.value(35) > limit) {
+        d.set_measured(35, static_cast<qint32>(limit));
+    }
+}
+
+// A synchronised driver (sync mode 73: 0 normal, 1 master, 2 slave) pulses only on its internal
+// clock without bursts, or on demand, while it is master or slave.
+void ns_sync_rules(sim_device &d) {
+    ns_duty_cycle(d);
+    if (d.value(73) != 0) {
+        if (d.value(36) == 2) {
+            d.set_measured(36, 0);
+        }
+        d.set_measured(53, 0);
+    }
 }
 
 // Nanosecond driver: repetition rate 25 (Hz), pulse duration 35 (0.1 ns), burst counts, trigger
-// source 36, TEC; emission on 32 with its companion switch 34.
+// source 36 (0 internal, 1 pulse on demand, 2 external), TEC; emission on 32 with its companion
+// switch 34.
 builder ns_family(int type, const char *model) {
     builder b(type, model);
     b.emission(32).store(82);
     b.add({plain(34), plain(25, 10000), plain(35, 100), plain(36)});
     burst_counts(b);
     b.temperature_limits(40, 15, 10).thermistor().tec();
-    return b;
+    return b.hook(ns_duty_cycle);
 }
 
 // Current-driven members: current 24 in 0.01 A ramps after emission; nominal diode voltage 56.
@@ -314,7 +375,9 @@ device_profile ns_current(int type, const char *model) {
     b.add({config(37, 5000), config(38, 50), config(56, 250)}).regulator();
     b.follow(follower_def::ramp_of(24, 2000, 32).limited(37, 38));
     if (type == 29) {
-        sync_block(b);
+        // Pulse delay 71 and sync delay 72 (0.1 ns, may be negative), sync mode 73: kept in flash
+        // with the configuration when it is stored.
+        b.add({config(71, 0), config(72, 0), config(73, 0)}).hook(ns_sync_rules);
     }
     if (type == 19) {
         b.add({plain(57)});  // DC bias current, 0.1 mA
@@ -343,11 +406,21 @@ device_profile sns() {
     return b.done();
 }
 
+// The high-power drivers warn that the output power is close to its maximum (alarm bit 9) once
+// the current (17) reaches 95 % of its maximum row (37); the bit stays latched until cleared.
+void high_power_warnings(sim_device &d) {
+    const follower_def *current = d.profile().find_follower(17);
+    const qint64 max = current ? qint64(d.value(37)) * current->limit_scale * current->scale : 0;
+    if (max > 0 && qint64(d.value(17)) * 100 >= max * 95) {
+        d.set_measured(48, static_cast<qint32>(quint32(d.value(48)) | 0x200));
+    }
+}
+
 // High-power driver family: permanent address 0xFA, alarm word 48 cleared by 41, store 51,
 // regulator on 24/19/25, input voltage 20 (0.1 V), output voltage 38 rising with the current.
 builder high_power(int type, const char *model, int max_current_ca) {
     builder b(type, model);
-    b.emission(16).alarm(48, 41).store(51).fixed_address_fa();
+    b.emission(16).alarm(48, 41).store(51).fixed_address_fa().hook(high_power_warnings);
     b.add({fixed(20, 480), config(37, max_current_ca)}).regulator(24, 19, 25);
     return b;
 }

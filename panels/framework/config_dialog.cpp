@@ -38,6 +38,15 @@ config_dialog::config_dialog(const QString &display_name, const parameter_list &
         rows->addWidget(hint_label);
     }
 
+    // One width for every value label, so that the rows line up into columns, wide enough for
+    // the row with the most decimals (rows with many decimals hold small coefficients).
+    int value_width = 70;
+    for (const parameter_record &record : parameters) {
+        const QString widest =
+            QStringLiteral("-88.") + QString(qMax(record.decimals, 1), QLatin1Char('8'));
+        value_width = qMax(value_width, fontMetrics().horizontalAdvance(widest) + 6);
+    }
+
     for (const parameter_record &record : parameters) {
         auto *row = new QHBoxLayout;
         auto *label = new QLabel(record.label, group);
@@ -47,10 +56,11 @@ config_dialog::config_dialog(const QString &display_name, const parameter_list &
         spin->setMaximum(4294967295.0);
         spin->setDecimals(record.decimals);
         spin->setSingleStep(record.step);
-        spin->setValue(record.value);
+        // A row not yet reported starts at the minimum, whatever mark the panel keeps for it.
+        spin->setValue(record.value == unknown_mark ? spin->minimum() : record.value);
         spin->setObjectName(record.label);
         // Fixed widths line the rows up into columns.
-        value->setFixedWidth(70);
+        value->setFixedWidth(value_width);
         spin->setFixedWidth(130);
         row->addWidget(label, 1);
         row->addWidget(value);

@@ -30,22 +30,38 @@ bool reading_known(double value) {
     return value != -1.0;
 }
 
-// A widget given a style sheet of its own stops inheriting its parent's font; keep the form's.
-void restyle(QWidget *widget, const QString &sheet) {
+}  // namespace
+
+panel_base::panel_base(QWidget *parent) : device_panel(parent) {}
+
+void panel_base::apply_style(QWidget *widget, const QString &sheet) {
+    // A widget given a style sheet of its own stops inheriting its parent's font; keep the form's.
     const QFont font = widget->font();
     widget->setStyleSheet(sheet);
     widget->setFont(font);
 }
-
-}  // namespace
-
-panel_base::panel_base(QWidget *parent) : device_panel(parent) {}
 
 QString panel_base::usb_can_id_hint() {
     return tr(
         "To be able to configure device CAN ID in the device parameters window please make sure, "
         "that your PC is connected directly to driver board via mini-USB cable, and \"mini USB "
         "mode\" is set in Settings tab.");
+}
+
+QStringList panel_base::driver_alarm_texts() {
+    return {
+        QStringLiteral("flag_Rebooted"),
+        QStringLiteral("flag_ALARM_INTERLOCK"),
+        QStringLiteral("flag_Overtemp"),
+        QStringLiteral("flag_OverCurrent"),
+        QStringLiteral("flag_UnderVoltage_IN"),
+        QStringLiteral("flag_OverVoltage_IN"),
+        QStringLiteral("flag_UnderVoltage_OUT"),
+        QStringLiteral("flag_OverCurrent_IND"),
+        tr("Output voltage is higher than 80% of input voltage, \nSOLUTION: increase the input "
+           "voltage"),
+        tr("Output power is close to MAX"),
+    };
 }
 
 panel_base::~panel_base() {
@@ -83,7 +99,7 @@ void panel_base::remove_parameter(int position) {
 QList<QWidget *> panel_base::setpoint_widgets() const {
     QList<QWidget *> sending;
     for (QWidget *widget : setpoint_order_) {
-        if (setpoints_.value(widget)) {
+        if (setpoints_.value(widget) && widget->isEnabled()) {
             sending.append(widget);
         }
     }
@@ -140,7 +156,7 @@ void panel_base::bind_reading(const reading_spec &spec, double *field, QLabel *l
         reserve_text(label, spec.widest_text());
     }
     bind_reply(spec.code, [this, spec, field, label](long value) {
-        *field = static_cast<double>(value) / spec.divisor;
+        *field = spec.value(value);
         if (label) {
             show_text(label, spec.text(*field));
         }
@@ -160,32 +176,38 @@ void panel_base::bind_state(int code, int *field, const QString &quantity,
 }
 
 void panel_base::describe_command(int code, const QString &quantity, const QString &unit,
-                                  double scale) {
-    command_names_.insert(code, command_name{quantity, unit, scale});
+                                  double scale, double offset) {
+    command_names_.insert(code, command_name{quantity, unit, scale, offset});
 }
 
 void panel_base::bind_reply(int code, std::function<void(long)> handler) {
     reply_handlers_[code].append(std::move(handler));
 }
 
+void panel_base::bind_switch(int report_code, bool *state, QLabel *state_label,
+                             QList<QAbstractButton *> switches, const QString &quantity,
+                             const QString &on_text, const QString &off_text) {
+    bind_reply(report_code,
+               [this, state, state_label, switches, quantity, on_text, off_text](long value) {
+                   *state = value != 0;
+                   if (state_label) {
+                       show_text(state_label, *state ? on_text : off_text);
+                   }
+                   // setChecked() does not emit clicked(): reflecting the report sends nothing.
+                   for (QAbstractButton *button : switches) {
+                       button->setChecked(*state);
+                   }
+                   observe(panel_observation::state, quantity, *state ? 1 : 0, {},
+                           *state ? on_text : off_text);
+               });
+}
+
 void panel_base::bind_emission(int report_code, QLabel *state_label,
                                QList<QAbstractButton *> switches, QVector<int> write_codes) {
-    emission_label_ = state_label;
-    emission_switches_ = std::move(switches);
     emission_write_codes_ = std::move(write_codes);
-    bind_reply(report_code, [this](long value) {
-        emission_on_ = value != 0;
-        if (emission_label_) {
-            emission_label_->setText(emission_on_ ? tr("ON") : tr("OFF"));
-        }
-        // setChecked() does not emit clicked(): reflecting the report sends nothing.
-        for (QAbstractButton *button : emission_switches_) {
-            button->setChecked(emission_on_);
-        }
-        emit send_emission(emission_on_ ? 1 : 0);
-        observe(panel_observation::state, tr("Emission"), emission_on_ ? 1 : 0, {},
-                emission_on_ ? tr("ON") : tr("OFF"));
-    });
+    bind_switch(report_code, &emission_on_, state_label, std::move(switches), tr("Emission"),
+                tr("ON"), tr("OFF"));
+    bind_reply(report_code, [this](long) { emit send_emission(emission_on_ ? 1 : 0); });
     for (int code : emission_write_codes_) {
         describe_command(code, tr("Emission"), {}, 1);
     }
@@ -264,8 +286,8 @@ void panel_base::observe_sent(const panel_command &command) {
     }
     const auto name = command_names_.constFind(command.code);
     if (name != command_names_.constEnd()) {
-        observe(panel_observation::setpoint, name->quantity, command.value / name->scale,
-                name->unit);
+        observe(panel_observation::setpoint, name->quantity,
+                (command.value - name->offset) / name->scale, name->unit);
     } else {
         observe(panel_observation::setpoint, tr("Command %1").arg(command.code), command.value, {});
     }
@@ -415,7 +437,7 @@ void panel_base::bind_setpoint(QWidget *widget, std::function<void()> on_yes) {
     setpoint_order_.append(widget);
     block_wheel(widget);
     if (qobject_cast<QAbstractSpinBox *>(widget)) {
-        restyle(widget, panel_style::setpoint());
+        apply_style(widget, panel_style::setpoint());
     }
 }
 
@@ -443,7 +465,8 @@ bool panel_base::eventFilter(QObject *watched, QEvent *event) {
         qDebug("Wheel event blocked");
         return true;
     }
-    if (event->type() == QEvent::KeyPress && setpoints_.contains(widget)) {
+    // A disabled set-point takes no keys from the operator; the filter sees them all the same.
+    if (event->type() == QEvent::KeyPress && setpoints_.contains(widget) && widget->isEnabled()) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             // Take what is typed so far, as the spin box itself does on Enter.
@@ -540,21 +563,21 @@ void panel_base::finish_setup(QWidget *body) {
     }
 
     if (tab_button_) {
-        restyle(tab_button_, panel_style::header_button());
+        apply_style(tab_button_, panel_style::header_button());
     }
     if (header_switch) {
-        restyle(header_switch, panel_style::header_switch());
+        apply_style(header_switch, panel_style::header_switch());
     }
     for (const char *name : {"on_off_button", "pb_on_off"}) {
         if (auto *button = findChild<QPushButton *>(QLatin1String(name))) {
-            restyle(button, panel_style::body_switch());
+            apply_style(button, panel_style::body_switch());
         }
     }
     for (QProgressBar *bar : findChildren<QProgressBar *>()) {
-        restyle(bar, panel_style::indicator());
+        apply_style(bar, panel_style::indicator());
     }
     if (auto *frame = findChild<QGroupBox *>(QStringLiteral("groupBox"))) {
-        restyle(frame, panel_style::panel_frame());
+        apply_style(frame, panel_style::panel_frame());
     }
     if (tool_button_) {
         QIcon icon;

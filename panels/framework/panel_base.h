@@ -68,7 +68,7 @@ public:
     // What a dialog row shows for a parameter not yet reported.
     QString dialog_unknown_text() const { return dialog_unknown_text_; }
     config_dialog *configuration_dialog() const;
-    // Widgets on which Return/Enter asks for confirmation and, on Yes, sends.
+    // Widgets on which Return/Enter asks for confirmation and, on Yes, sends (the enabled ones).
     QList<QWidget *> setpoint_widgets() const;
     // Widgets whose wheel events are swallowed.
     QList<QWidget *> wheel_blocked_widgets() const { return watched_; }
@@ -81,6 +81,9 @@ public:
     // The note shown in the configuration dialog unless the panel gives its own: how to reach a
     // device for changing its CAN id.
     static QString usb_can_id_hint();
+    // Names of alarm bits 0 to 9 of the drivers' common alarm word (the raw flag names are shown
+    // as the devices name them).
+    static QStringList driver_alarm_texts();
 
 signals:
     // After every report the panel takes and every set-point it sends (see panel_observation).
@@ -124,16 +127,22 @@ protected:
     // `text(value)` when that is given.
     void bind_state(int code, int *field, const QString &quantity = {},
                     std::function<QString(int)> text = {});
-    // Names what a write command sets, for observers: value on the wire / scale, in `unit`.
-    // Set-points bound with a code and scale are described from the reading reported under
-    // code + 128 when there is one.
-    void describe_command(int code, const QString &quantity, const QString &unit, double scale);
+    // Names what a write command sets, for observers: (value on the wire - offset) / scale, in
+    // `unit`. Set-points bound with a code and scale are described from the reading reported
+    // under code + 128 when there is one.
+    void describe_command(int code, const QString &quantity, const QString &unit, double scale,
+                          double offset = 0);
     // Reply `code` runs `handler` (after the stored fields of the same code).
     void bind_reply(int code, std::function<void(long)> handler);
 
-    // Emission: reply `report_code` sets `state_label` to "ON"/"OFF", checks the `switches`
-    // without sending and emits send_emission(); a switch click queues (code, on) for each of
-    // `write_codes` in order.
+    // An on/off state: reply `report_code` stores it in `state`, sets `state_label` to `on_text`
+    // or `off_text` and checks the `switches` without sending. What a switch click sends is the
+    // panel's own.
+    void bind_switch(int report_code, bool *state, QLabel *state_label,
+                     QList<QAbstractButton *> switches, const QString &quantity,
+                     const QString &on_text, const QString &off_text);
+    // Emission: an on/off state (bind_switch, "ON"/"OFF") that also emits send_emission(); a
+    // switch click queues (code, on) for each of `write_codes` in order.
     void bind_emission(int report_code, QLabel *state_label, QList<QAbstractButton *> switches,
                        QVector<int> write_codes);
     // TEC on/off: reply `report_code` checks `box`; clicking it queues (write_code, on). A TEC
@@ -145,7 +154,8 @@ protected:
                     int initial_word = 0);
 
     // Return/Enter on `widget` asks "Send command on <name>?"; on Yes `on_yes` runs (empty: the
-    // box is asked and nothing is sent). Wheel events on `widget` are swallowed.
+    // box is asked and nothing is sent). A disabled widget asks nothing. Wheel events on `widget`
+    // are swallowed.
     void bind_setpoint(QWidget *widget, std::function<void()> on_yes);
     // The common case: on Yes queue (code, value × scale) and keep the value's text with
     // `text_decimals` decimals in `kept_text` (when given).
@@ -188,6 +198,8 @@ protected:
     QStringList alarm_text() const;
     // The alarm details box: alarm_text(), one per line.
     void show_alarm_details();
+    // Gives `widget` a style sheet of its own, keeping the form's font.
+    static void apply_style(QWidget *widget, const QString &sheet);
     // Sets the label's text only when it changes (see widget_update).
     static void show_text(QLabel *label, const QString &text);
     // Sizes a value label once for the widest text it shows, so later texts repaint it alone.
@@ -210,6 +222,7 @@ private:
         QString quantity;
         QString unit;
         double scale = 1;
+        double offset = 0;
     };
 
     void take_parameter_report(int code, long value);
@@ -234,8 +247,6 @@ private:
     QHash<int, command_name> command_names_;
     QHash<QString, double> last_observed_;  // by quantity
 
-    QLabel *emission_label_ = nullptr;
-    QList<QAbstractButton *> emission_switches_;
     QVector<int> emission_write_codes_;
     bool emission_on_ = false;
 

@@ -1,5 +1,9 @@
 #include "reading.h"
 
+double reading_spec::value(long reported) const {
+    return (static_cast<double>(reported) - offset) / divisor;
+}
+
 QString reading_spec::text(double value) const {
     QString shown = QString::number(value, 'f', decimals);
     if (!unit.isEmpty()) {

@@ -9,9 +9,13 @@ struct reading_spec {
     int code = 0;        // report code (the quantity's write code + 128)
     QString quantity;    // what it is, e.g. "Current"
     QString unit;        // unit shown after the value, e.g. "mA"; empty for plain numbers
-    double divisor = 1;  // reported integer / divisor = value in `unit`
+    double divisor = 1;  // (reported integer - offset) / divisor = value in `unit`
     int decimals = 1;    // decimals shown
     int int_digits = 4;  // integer digits the value label is sized for (it grows if needed)
+    double offset = 0;   // reported integer that means zero (a device that reports with an offset)
+
+    // The value in `unit` of a reported integer: (reported - offset) / divisor.
+    double value(long reported) const;
 
     // "12.3 mA": the value with the reading's decimals and unit.
     QString text(double value) const;

@@ -1,10 +1,10 @@
 # Panel tests: the framework's promises over every registered panel type, then each panel family.
-lumivox_add_test(NAME test_panel_framework SOURCES test_panel_framework.cpp test_panel_support.h
-                 LIBS lumivox_panels LABELS gui panels)
-if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/test_panel_cw.cpp)
-  lumivox_add_test(NAME test_panel_cw SOURCES test_panel_cw.cpp test_panel_support.h
-                   LIBS lumivox_panels LABELS gui panels)
-endif()
+foreach(area framework cw accessory picosecond nanosecond high_power)
+  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/test_panel_${area}.cpp)
+    lumivox_add_test(NAME test_panel_${area} SOURCES test_panel_${area}.cpp test_panel_support.h
+                     LIBS lumivox_panels LABELS gui panels)
+  endif()
+endforeach()
 
 # Not a test: renders every panel to PNG files for a look by eye (see the file's header).
 add_executable(render_panels render_panels.cpp)

@@ -81,6 +81,72 @@ private slots:
         QVERIFY(!more.wait(2 * main_window::reconnect_gap_ms));
     }
 
+    // Devices at CAN IDs no frame can carry are named in a warning and send nothing; the others
+    // poll as usual, and every frame on the wire is well formed.
+    void impossible_can_ids_send_nothing_data() {
+        QTest::addColumn<QList<int>>("ids");
+        QTest::addColumn<QList<int>>("sending");
+        QTest::newRow("beyond 0x7ff, negative, beyond 32 bits")
+            << QList<int>{4096, 7, -1, 2147483647, 9} << QList<int>{7, 9};
+        QTest::newRow("0 and 0x7ff are the edges")
+            << QList<int>{0x800, 0, 0x7ff} << QList<int>{0, 0x7ff};
+        QTest::newRow("none can send") << QList<int>{4096} << QList<int>{};
+    }
+    void impossible_can_ids_send_nothing() {
+        QFETCH(QList<int>, ids);
+        QFETCH(QList<int>, sending);
+        pty_pair pty;
+        QVERIFY(pty.ok());
+        QByteArray rest = "mini_usb_mode=false\ndevice_count=" + QByteArray::number(ids.size());
+        for (int i = 0; i < ids.size(); ++i) {
+            rest += "\ndevice_" + QByteArray::number(i) + "=" + QByteArray::number(ids.at(i));
+        }
+        scratch_dir dir(config_naming(pty.slave_path(), rest + "\n"));
+        warning_log warnings;
+        auto window = loaded_window("Veltrano", {{pty.slave_path(), "Test adapter"}});
+        QStringList named;  // the devices the warnings say send nothing
+        for (const QString &line : warnings.lines()) {
+            const auto match = QRegularExpression(R"(^device .* has CAN ID (-?\d+), which no )"
+                                                  R"(frame can carry.*sends nothing$)")
+                                   .match(line);
+            if (match.hasMatch()) {
+                named << match.captured(1);
+            }
+        }
+        QStringList silent;
+        for (int id : ids) {
+            if (!sending.contains(id)) {
+                silent << QString::number(id);
+            }
+        }
+        QCOMPARE(named, silent);
+
+        widget<QPushButton>(*window, "connect_button")->click();
+        QCOMPARE(pty.read_exactly(adapter_start.size()), adapter_start);
+        if (sending.isEmpty()) {
+            QTest::qWait(200);  // ticks that would poll
+            QCOMPARE(pty.read_until_quiet(100, 500), QByteArray());
+            return;
+        }
+        // Type requests in round-robin order: three rounds of the devices that can send.
+        constexpr int frame_bytes = 29;  // 25 characters and the two line ends
+        const int count = 3 * sending.size();
+        QByteArray wire;  // read in short turns: the window's event loop drives the polling
+        QTRY_VERIFY((wire += pty.read_exactly(count * frame_bytes - wire.size(), 20)).size() ==
+                    count * frame_bytes);
+        // A type request: code d0, host 22, reserved 0000, value 00000000, checksum.
+        const QRegularExpression well_formed(
+            R"(^t([0-9a-f]{3})8d022000000000000[0-9a-f]{4}\r\n\r\n$)");
+        QList<int> polled;
+        for (int i = 0; i < count; ++i) {
+            const QString frame = QString::fromLatin1(wire.mid(i * frame_bytes, frame_bytes));
+            const auto match = well_formed.match(frame);
+            QVERIFY2(match.hasMatch(), qPrintable(frame));
+            polled << match.captured(1).toInt(nullptr, 16);
+        }
+        QCOMPARE(polled, sending + sending + sending);
+    }
+
     // The TTL tester's texts as the adapter gets them (the writer adds CR LF).
     void ttl_commands_on_the_wire_data() {
         QTest::addColumn<QString>("button");

@@ -42,15 +42,6 @@ void report_known(panel_base &panel, const raw_table &table) {
     }
 }
 
-template <class W>
-W *child(panel_base &panel, const char *name) {
-    W *widget = panel.findChild<W *>(QLatin1String(name));
-    if (!widget) {
-        qFatal("no %s in the panel", name);
-    }
-    return widget;
-}
-
 QString label_text(panel_base &panel, const char *name) {
     return child<QLabel>(panel, name)->text();
 }

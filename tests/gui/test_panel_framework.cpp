@@ -303,11 +303,16 @@ private slots:
         host.resize(900, 600);
         host.show();
         QVERIFY(QTest::qWaitForWindowExposed(&host));
-        // 1: a valid mode, index or switch state for every panel.
-        const auto report_all = [&panel] {
+        // 1: a valid mode, index or switch state for every panel. Each code once, as a device
+        // reports it: a polled code that also reports a parameter keeps the parameter's value.
+        QSet<int> parameter_reports;
+        for (const parameter_record &record : panel->parameters()) {
+            parameter_reports.insert(record.code + 128);
+        }
+        const auto report_all = [&panel, &parameter_reports] {
             report_parameters(*panel, raw_value);
             for (int code : panel->plan().read_codes) {
-                if (code != poll_plan::silent) {
+                if (code != poll_plan::silent && !parameter_reports.contains(code)) {
                     panel->sl_parsed_data_received(code, 1);
                 }
             }
@@ -349,8 +354,12 @@ private slots:
         if (!panel->has_configuration_dialog()) {
             QSKIP("no configuration dialog");
         }
+        // Every row but the last reported.
         const parameter_list parameters = panel->parameters();
-        panel->sl_parsed_data_received(parameters.first().code + 128, raw_value(0));
+        const int last = parameters.size() - 1;
+        for (int i = 0; i < last; ++i) {
+            panel->sl_parsed_data_received(parameters[i].code + 128, raw_value(i));
+        }
         panel->on_toolButton_clicked();
         config_dialog *dialog = panel->configuration_dialog();
         QVERIFY(dialog);
@@ -361,16 +370,17 @@ private slots:
             QCOMPARE(dialog->spin_boxes()[i]->objectName(), parameters[i].label);
             QCOMPARE(dialog->spin_boxes()[i]->decimals(), parameters[i].decimals);
             QCOMPARE(dialog->spin_boxes()[i]->singleStep(), parameters[i].step);
+            const int decimals = parameters[i].decimals;
+            QCOMPARE(dialog->value_labels()[i]->text(),
+                     i < last
+                         ? QString::number(raw_value(i) / scaling::pow10(decimals), 'f', decimals)
+                         : panel->dialog_unknown_text());
         }
-        QCOMPARE(dialog->value_labels().first()->text(),
-                 QString::number(raw_value(0) / scaling::pow10(parameters[0].decimals), 'f',
-                                 parameters[0].decimals));
-        QCOMPARE(dialog->value_labels().last()->text(), panel->dialog_unknown_text());
         // Building sends nothing.
         QCOMPARE(panel->queued_commands(), 0);
 
         // A later report reaches the open dialog's labels.
-        panel->sl_parsed_data_received(parameters.last().code + 128, raw_value(1));
+        panel->sl_parsed_data_received(parameters.last().code + 128, raw_value(last));
         QVERIFY(dialog->value_labels().last()->text() != panel->dialog_unknown_text());
 
         // Opening again builds a new dialog; closing deletes it.

@@ -52,6 +52,16 @@ inline std::unique_ptr<panel_base> make_panel(int type,
     return std::unique_ptr<panel_base>(panel);
 }
 
+// The panel's widget called `name`; a missing one ends the test run.
+template <class W>
+W *child(panel_base &panel, const QString &name) {
+    W *widget = panel.findChild<W *>(name);
+    if (!widget) {
+        qFatal("no %s in the panel", qPrintable(name));
+    }
+    return widget;
+}
+
 // Answers the boxes the panels ask, in the order the test expects them. A box that nobody
 // expected is answered with no button (nothing confirmed) and recorded, and the test's cleanup
 // fails on it.

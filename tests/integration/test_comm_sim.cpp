@@ -75,8 +75,7 @@ struct program_side {
             dev->set_name(QStringLiteral("device %1").arg(id));
             QObject::connect(dev.get(), &device::sig_send_command, &link,
                              &serial_connector::sl_send_string);
-            QObject::connect(&link, &serial_connector::sig_parse_received_message, dev.get(),
-                             &device::sl_d_data_received);
+            dev->listen_to(&link);
             // The window connects the refresh pulse when it places the panel.
             QObject::connect(dev.get(), &device::sig_change_ui_widget, &host, [](device *d, int) {
                 QObject::connect(d, &device::sig_refresh_state, d->current_panel(),

@@ -1,7 +1,7 @@
-// The `lumivox` program itself, started as an operator starts it, ends on SIGTERM and SIGINT as it
-// does when its window is closed: configuration saved, every thread stopped, exit code 0. Checked
-// with the serial link open (on the simulator) and with automatic connection retrying a missing
-// adapter.
+// The `lumivox` program itself, started as an operator starts it, ends on SIGTERM, SIGINT and SIGHUP
+// as it does when its window is closed: configuration saved, every thread stopped, exit code 0.
+// Checked with the serial link open (on the simulator) and with automatic connection retrying a
+// missing adapter.
 #include "sim_bus.h"
 #include "sim_pty.h"
 
@@ -23,6 +23,7 @@ private slots:
         QTest::addColumn<bool>("adapter_present");
         QTest::newRow("SIGTERM, connected") << int(SIGTERM) << true;
         QTest::newRow("SIGINT, connected") << int(SIGINT) << true;
+        QTest::newRow("SIGHUP (terminal closed), connected") << int(SIGHUP) << true;
         QTest::newRow("SIGTERM, adapter missing") << int(SIGTERM) << false;
     }
 

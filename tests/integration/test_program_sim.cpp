@@ -9,6 +9,7 @@
 #include "sim_pty.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -19,9 +20,10 @@
 
 namespace {
 
-constexpr int cw_id = 1;         // type 14, the CW driver panel
-constexpr int precision_id = 2;  // type 15, the precision CW panel
-constexpr int picosecond_id = 3; // type 20, a type whose panel class the program does not have
+constexpr int cw_id = 1;          // type 14, the CW driver panel
+constexpr int precision_id = 2;   // type 15, the precision CW panel
+constexpr int picosecond_id = 3;  // type 20, the picosecond driver panel
+constexpr int heater_id = 4;      // type 4, the heater accessory
 
 }  // namespace
 
@@ -49,6 +51,7 @@ private slots:
         QVERIFY(bus.add_device(cw_id, 14));
         QVERIFY(bus.add_device(precision_id, 15));
         QVERIFY(bus.add_device(picosecond_id, 20));
+        QVERIFY(bus.add_device(heater_id, 4));
         line = new sim_pty(bus, this);
         QVERIFY(line->open());
         // The simulated devices move in real time, as hardware does.
@@ -61,11 +64,12 @@ private slots:
         ini.setValue("prev_port", line->slave_path());
         ini.setValue("mini_usb_mode", false);
         ini.setValue("autoconnection_mode", true);
-        ini.setValue("device_count", 3);
-        const int ids[] = {cw_id, precision_id, picosecond_id};
-        for (int n = 0; n < 3; ++n) {
+        const int ids[] = {cw_id, precision_id, picosecond_id, heater_id};
+        ini.setValue("device_count", 4);
+        for (int n = 0; n < 4; ++n) {
             ini.setValue(QStringLiteral("device_%1").arg(n), ids[n]);
-            ini.setValue(QStringLiteral("name_device_%1").arg(n), QStringLiteral("Bench %1").arg(n));
+            ini.setValue(QStringLiteral("name_device_%1").arg(n),
+                         QStringLiteral("Bench %1").arg(n));
         }
         ini.sync();
 
@@ -85,28 +89,31 @@ private slots:
     }
 
     void devices_are_found_and_panels_built() {
-        QTRY_VERIFY_WITH_TIMEOUT(panel_of(0) && panel_of(1), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(panel_of(0) && panel_of(1) && panel_of(2) && panel_of(3), 10000);
         QCOMPARE(panel_of(0)->type_name(), QStringLiteral("VTR-CW-1800"));
         QCOMPARE(panel_of(1)->type_name(), QStringLiteral("VTR-CW-1800H precision"));
+        QCOMPARE(panel_of(2)->type_name(), QStringLiteral("VTR-PS"));
+        QCOMPARE(panel_of(3)->type_name(), QStringLiteral("Heater"));
         QCOMPARE(panel_of(0)->display_name(), QStringLiteral("Bench 0"));
         // The panels sit in their containers on the Main page.
         QCOMPARE(panel_of(0)->parentWidget(), window->containers().at(0));
         QCOMPARE(panel_of(1)->parentWidget(), window->containers().at(1));
-        // Type 20 is learned, but there is no panel for it.
-        QTRY_COMPARE(window->devices().at(2)->type_id(), 20);
-        QVERIFY(!panel_of(2));
     }
 
     void poll_cycles_settle() {
         // Once every configuration row is known (emission and TEC off), the configuration
         // button is enabled; the rows come from the simulated device's own table.
-        for (int slot : {0, 1}) {
+        for (int slot : {0, 1, 2, 3}) {
             auto *configure = panel_of(slot)->findChild<QAbstractButton *>("toolButton");
             QVERIFY(configure);
             QTRY_VERIFY_WITH_TIMEOUT(configure->isEnabled(), 15000);
         }
         auto *model = panel_of(0)->findChild<QLabel *>("laser_name_label");
         QCOMPARE(model->text(), QStringLiteral("VTR-CW-1800"));
+        // The picosecond driver's 100 kHz fills its rate in the "kHz" range.
+        auto *rate = panel_of(2)->findChild<QDoubleSpinBox *>("dsb_freq");
+        QTRY_COMPARE_WITH_TIMEOUT(rate->value(), 100.0, 5000);
+        QCOMPARE(panel_of(2)->findChild<QComboBox *>("cb_freq_range")->currentText(), "kHz");
     }
 
     void confirmed_set_point_reaches_the_device() {
@@ -136,6 +143,30 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(summary->text(), QStringLiteral("Emission: OFF"), 5000);
     }
 
+    // The heater takes its set-point and its switch, then warms; its switch is not emission, so
+    // the window's emission summary stays off.
+    void heater_round_trip() {
+        auto *heater_switch = panel_of(3)->findChild<QAbstractButton *>("on_off_button");
+        auto *state = panel_of(3)->findChild<QLabel *>("l_onoff");
+        auto *temperature = panel_of(3)->findChild<QLabel *>("l_temp");
+        QVERIFY(heater_switch && state && temperature);
+        QTRY_COMPARE_WITH_TIMEOUT(temperature->text(), QStringLiteral("22.0 °C"), 5000);
+        auto *set_point = panel_of(3)->findChild<QDoubleSpinBox *>("dsb_temp");
+        QVERIFY(set_point);
+        set_point->setFocus();
+        set_point->setValue(60.0);
+        QTest::keyClick(set_point, Qt::Key_Return);
+        QTRY_COMPARE_WITH_TIMEOUT(bus.find(heater_id)->set_point(18), 600, 5000);
+        heater_switch->click();
+        QTRY_COMPARE_WITH_TIMEOUT(state->text(), QStringLiteral("ON"), 5000);
+        QCOMPARE(bus.find(heater_id)->value(33), 1);
+        QTRY_VERIFY_WITH_TIMEOUT(temperature->text() != QStringLiteral("22.0 °C"), 5000);
+        QCOMPARE(window->findChild<QLabel *>("emission_label")->text(),
+                 QStringLiteral("Emission: OFF"));
+        heater_switch->click();
+        QTRY_COMPARE_WITH_TIMEOUT(state->text(), QStringLiteral("OFF"), 5000);
+    }
+
     void silent_device_is_lost_and_comes_back() {
         QPointer<device_panel> before = panel_of(1);
         QVERIFY(before);
@@ -152,7 +183,7 @@ private slots:
         window->close();
         QSettings ini(QStringLiteral("configs/config.ini"), QSettings::IniFormat);
         QCOMPARE(ini.value("prev_port").toString(), line->slave_path());
-        QCOMPARE(ini.value("device_count").toInt(), 3);
+        QCOMPARE(ini.value("device_count").toInt(), 4);
         QCOMPARE(ini.value("device_2").toInt(), picosecond_id);
     }
 };

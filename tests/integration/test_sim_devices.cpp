@@ -161,7 +161,7 @@ struct drive_case {
 const QList<drive_case> drive_cases{
     {14, 16, 17, 5000, 5000},   {15, 16, 17, 50000, 5000000}, {17, 16, 17, 3000, 3000},
     {18, 16, 17, 50000, 50000}, {19, 32, 24, 1000, 1000},     {20, 32, 24, 150, 150},
-    {23, 32, 24, 1000, 1000},   {25, 16, 17, 100000, 100000}, {26, 32, 24, 150, 150},
+    {23, 32, 24, 1000, 1000},   {25, 16, 17, 100000, 100000}, {26, 32, 60, 50, 50},
     {27, 16, 17, 5000, 5000},   {28, 32, 24, 150, 150},       {29, 32, 24, 1000, 1000},
     {31, 32, 24, 150, 150},     {34, 16, 17, 2000, 2000},     {35, 34, 24, 150, 150},
     {38, 16, 17, 4000, 4000},
@@ -323,13 +323,17 @@ private slots:
         QTest::addColumn<long>("max_row");  // the new "Max current" row value
         QTest::addColumn<long>("set");      // a set point above it
         QTest::addColumn<long>("reading");  // what the drive settles at
-        QTest::newRow("CW, 0.1 mA") << 14 << 16 << 10000L << 15000L << 10000L;
+        QTest::addColumn<long>("alarm");    // alarm word then (-1: the type has none)
+        QTest::newRow("CW, 0.1 mA") << 14 << 16 << 10000L << 15000L << 10000L << 0L;
         QTest::newRow("precision CW, 0.01 mA set, 0.0001 mA reported")
-            << 15 << 16 << 20000L << 30000L << 2000000L;
-        QTest::newRow("nanosecond, 0.01 A") << 23 << 32 << 800L << 1200L << 800L;
-        QTest::newRow("high power, 0.01 A") << 18 << 16 << 2000L << 3000L << 2000L;
+            << 15 << 16 << 20000L << 30000L << 2000000L << -1L;
+        QTest::newRow("nanosecond, 0.01 A") << 23 << 32 << 800L << 1200L << 800L << -1L;
+        QTest::newRow("high power, 0.01 A, power close to MAX")
+            << 18 << 16 << 2000L << 3000L << 2000L << 0x200L;
         QTest::newRow("high power with TEC, mA against a 0.01 A row")
-            << 25 << 16 << 2000L << 30000L << 20000L;
+            << 25 << 16 << 2000L << 30000L << 20000L << 0x200L;
+        QTest::newRow("compact high power, 94 % of the maximum: no warning")
+            << 27 << 16 << 2000L << 1880L << 1880L << 0L;
     }
     void drive_set_point_is_held_to_the_configured_maximum() {
         QFETCH(int, type);
@@ -337,6 +341,7 @@ private slots:
         QFETCH(long, max_row);
         QFETCH(long, set);
         QFETCH(long, reading);
+        QFETCH(long, alarm);
         rig r;
         QVERIFY(r.add(1, type));
         const int drive = type == 23 ? 24 : 17;
@@ -345,6 +350,7 @@ private slots:
         r.send(1, emission, 1);
         r.bus.advance(60000);
         QCOMPARE(r.value(1, drive + 128), std::optional<long>(reading));
+        QCOMPARE(r.value(1, 176), alarm < 0 ? std::nullopt : std::optional<long>(alarm));
     }
 
     void constant_power_mode_regulates_the_power() {
@@ -453,6 +459,36 @@ private slots:
         QCOMPARE(std::count(seen.begin(), seen.end(), seen.first()) < seen.size(), moves);
     }
 
+    // The energy-calibrated driver's voltage comes from its energy through the calibration rows:
+    // 0.001·E³ - 0.02·E² + a1·E + 1 V, held to the 30.0 V maximum.
+    void energy_calibration_sets_the_drive_voltage() {
+        rig r;
+        QVERIFY(r.add(1, 26));
+        r.send(1, 60, 50);  // 5.0
+        r.send(1, 32, 1);
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, 188), std::optional<long>(50));
+        QCOMPARE(r.value(1, 152), std::optional<long>(131));  // a1 = 2.5: 13.125 V
+        r.send(1, 58, 3000000);
+        QCOMPARE(r.value(1, 152), std::optional<long>(156));
+        r.send(1, 58, 8000000);
+        QCOMPARE(r.value(1, 152), std::optional<long>(300));
+        r.send(1, 32, 0);
+        QCOMPARE(r.value(1, 152), std::optional<long>(0));
+    }
+
+    void module_warns_near_its_maximum_voltage() {
+        rig r;
+        QVERIFY(r.add(1, 35));
+        r.send(1, 24, 290);  // 29.0 V of 30.0
+        r.send(1, 34, 1);
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, 176), std::optional<long>(0x200));
+        r.send(1, 24, 200);
+        r.bus.advance(60000);
+        QCOMPARE(r.value(1, 176), std::optional<long>(0));
+    }
+
     void comb_bias_and_tec_current() {
         rig r;
         QVERIFY(r.add(4, 17));
@@ -493,6 +529,45 @@ private slots:
             r.send(8, wr.first, wr.second);
         }
         QCOMPARE(r.value(8, 149), std::optional<long>(seed * numerator / denominator));
+    }
+
+    // The nanosecond drivers keep the pulse within 2 % of the period (100 ns under an external
+    // trigger); a synchronised one pulses without bursts or external trigger while it is master
+    // or slave, and keeps its sync settings once stored.
+    void nanosecond_rules_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<pair_list>("writes");
+        QTest::addColumn<bool>("reset");
+        QTest::addColumn<int>("read");
+        QTest::addColumn<long>("expected");
+        using w = pair_list;
+        QTest::newRow("cut to 2 % at 1 kHz")
+            << 23 << w{{25, 1000}, {35, 300000}} << false << 163 << 200000L;
+        QTest::newRow("cut by a higher rate")
+            << 19 << w{{35, 1000}, {25, 1000000}} << false << 163 << 200L;
+        QTest::newRow("within 2 %") << 31 << w{{25, 1000}, {35, 5000}} << false << 163 << 5000L;
+        QTest::newRow("external: 100 ns") << 23 << w{{35, 1500}, {36, 2}} << false << 163 << 1000L;
+        QTest::newRow("master: no burst") << 29 << w{{53, 5}, {73, 1}} << false << 181 << 0L;
+        QTest::newRow("slave: no external") << 29 << w{{73, 2}, {36, 2}} << false << 164 << 0L;
+        QTest::newRow("normal: burst") << 29 << w{{53, 5}} << false << 181 << 5L;
+        QTest::newRow("sync mode stored") << 29 << w{{73, 1}, {82, 0}} << true << 201 << 1L;
+        QTest::newRow("sync mode not stored") << 29 << w{{73, 1}} << true << 201 << 0L;
+    }
+    void nanosecond_rules() {
+        QFETCH(int, type);
+        QFETCH(pair_list, writes);
+        QFETCH(bool, reset);
+        QFETCH(int, read);
+        QFETCH(long, expected);
+        rig r;
+        sim_device *dev = r.add(4, type);
+        for (const auto &wr : writes) {
+            r.send(4, wr.first, wr.second);
+        }
+        if (reset) {
+            dev->reset();
+        }
+        QCOMPARE(r.value(4, read), std::optional<long>(expected));
     }
 
     void store_keeps_configuration_over_a_reset_data() {

@@ -4,6 +4,8 @@
 #include "device_panel.h"
 #include "frame_codec.h"
 #include "panel_registry.h"
+#include "pty_pair.h"
+#include "serial_connector.h"
 
 #include <QFrame>
 #include <QSignalSpy>
@@ -44,6 +46,14 @@ QString answer(int sender, int code, long value) {
 // until the device has handled it.
 void deliver(device &dev, const QString &line) {
     run_in(&dev, [&dev, line] { dev.sl_d_data_received(line); });
+}
+
+// Opens `link` on the pseudo-terminal, as the window's connect request does.
+bool open_on(serial_connector &link, const pty_pair &pty) {
+    signal_log connected(&link, &serial_connector::sig_connected);
+    const QString path = pty.slave_path();
+    post_to(&link, [&link, path] { link.sl_init_connection(path); });
+    return connected.wait_for(1);
 }
 
 bool is_type_request(const QString &frame, int can_id) {
@@ -243,13 +253,26 @@ private slots:
         QTest::newRow("address 0xFA") << 0xFA << false << true;
     }
     void sender_filter() {
+        // Through a serial link, as in the program.
         QFETCH(int, can_id);
         QFETCH(bool, accept_any);
+        pty_pair pty;
+        serial_connector link;
         device dev(&host, &registry);
         dev.set_can_id(can_id);
         dev.set_accept_any_sender(accept_any);
-        deliver(dev, answer(9, 0xD0, 14));
+        dev.listen_to(&link);
+        signal_log lines(&link, &serial_connector::sig_parse_received_message);
+        QVERIFY(open_on(link, pty));
+
+        // The device (connected first) has handled each line by the time the link's signal
+        // reaches this thread.
+        QVERIFY(pty.write(answer(9, 0xD0, 14).toLatin1() + "\r"));
+        QVERIFY(lines.wait_for(1));
         QTEST(dev.type_id() == 14, "takes_foreign");
+        QVERIFY(pty.write(answer(can_id, 0xD0, 15).toLatin1() + "\r"));
+        QVERIFY(lines.wait_for(2));
+        QCOMPARE(dev.type_id(), 15);
     }
 
     void answers_and_ticks_run_concurrently() {
@@ -282,13 +305,23 @@ private slots:
     }
 
     void destroying_stops_the_thread_and_the_panel() {
+        // Deleted while its serial link is busy with answers for it; the link carries on.
+        pty_pair pty;
+        serial_connector link;
+        signal_log lines(&link, &serial_connector::sig_parse_received_message);
+        QVERIFY(open_on(link, pty));
         auto *dev = new device(&host, &registry);
         dev->set_can_id(5);
-        deliver(*dev, answer(5, 0xD0, 14));
+        dev->listen_to(&link);
+        QVERIFY(pty.write(answer(5, 0xD0, 14).toLatin1() + "\r"));
+        QTRY_COMPARE(dev->type_id(), 14);
         dev->tick();
         QPointer<device_panel> panel = dev->current_panel();
+        QVERIFY(panel);
+        QVERIFY(pty.write(QByteArray(answer(5, 0x92, 1).toLatin1() + "\r").repeated(200)));
         delete dev;  // aborts with "destroyed while running" unless the thread was stopped
         QVERIFY(panel.isNull());
+        QVERIFY(lines.wait_for(201));
     }
 };
 

@@ -6,10 +6,12 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QtTest>
 
 #include <pthread.h>
 #include <time.h>
+#include <mutex>
 
 namespace {
 
@@ -31,6 +33,15 @@ double thread_cpu_ms(serial_connector &link) {
         return -1;
     }
     return ts.tv_sec * 1e3 + ts.tv_nsec / 1e6;
+}
+
+// Every message of the process while a test captures them, as "category: text" (the link logs
+// from its own thread).
+std::mutex captured_lock;
+QStringList captured;
+void capture(QtMsgType, const QMessageLogContext &context, const QString &text) {
+    std::lock_guard<std::mutex> hold(captured_lock);
+    captured << QLatin1String(context.category) + QStringLiteral(": ") + text;
 }
 
 // How many descriptors of this process refer to `path`.
@@ -160,6 +171,57 @@ private slots:
         QVERIFY(l.pty.write("tail\r"));
         QTRY_COMPARE(l.lines.count(), 1);
         QCOMPARE(l.received(), QStringList{QString::fromLatin1(head + "tail")});
+    }
+
+    void frames_are_logged_only_when_switched_on_data() {
+        QTest::addColumn<QString>("rules");
+        QTest::addColumn<bool>("option");  // the program's --log-wire
+        QTest::addColumn<bool>("logged");
+        QTest::newRow("off by default") << QString() << false << false;
+        QTest::newRow("logging rule") << QStringLiteral("lumivox.wire.debug=true") << false << true;
+        QTest::newRow("program option") << QString() << true << true;
+        QTest::newRow("every debug line on") << QStringLiteral("*.debug=true") << false << true;
+    }
+    void frames_are_logged_only_when_switched_on() {
+        QFETCH(QString, rules);
+        QFETCH(bool, option);
+        QFETCH(bool, logged);
+        const QtMessageHandler previous = qInstallMessageHandler(capture);
+        const auto restore = qScopeGuard([previous] {
+            qInstallMessageHandler(previous);
+            QLoggingCategory::setFilterRules(QString());
+            captured.clear();
+        });
+        QLoggingCategory::setFilterRules(rules);
+        if (option) {
+            serial_connector::enable_wire_log();
+        }
+        open_link l;
+        QVERIFY(l.open());
+        const QString frame = frame_codec::compose(5, 0x92, 0);
+        in_link_thread(l.link, [&l, frame] { l.link.sl_send_string(frame); });
+        QCOMPARE(l.pty.read_exactly(29), frame.toLatin1() + "\r\n");
+        const QString answer = QStringLiteral("t0058910500000000000a1111");
+        QVERIFY(l.pty.write(answer.toLatin1() + "\r"));
+        QVERIFY(l.lines.wait_for(1));
+
+        std::lock_guard<std::mutex> hold(captured_lock);
+        QStringList wire;
+        for (const QString &m : qAsConst(captured)) {
+            if (m.startsWith(QLatin1String("lumivox.wire: "))) {
+                wire << m.mid(14);
+            }
+        }
+        QStringList expected;
+        if (logged) {
+            for (int i = 0; i < 3; ++i) {
+                expected << QStringLiteral("O\r") << QStringLiteral("S6\r");
+            }
+            expected << frame << answer;
+        }
+        QCOMPARE(wire, expected);
+        // The link's other debug lines are written either way.
+        QVERIFY(captured.contains(QStringLiteral("default: serial port is opened SUCCESSFULLY")));
     }
 
     void connect_while_open_reopens() {
