@@ -31,27 +31,25 @@ int trend_store::add(const device_sample &sample) {
     if (sample.kind == panel_observation::parameter) {
         return -1;
     }
-    int index = -1;
-    if (last_hit_ >= 0 && series_[std::size_t(last_hit_)].holds(sample)) {
-        index = last_hit_;
-    } else {
-        for (std::size_t i = 0; i < series_.size(); ++i) {
-            if (series_[i].holds(sample)) {
-                index = int(i);
-                break;
-            }
+    int index = last_hit_;
+    if (index < 0 || !series_[std::size_t(index)].holds(sample)) {
+        const QChar gap(0x1f);
+        const QString key = QString::number(sample.can_id) + gap + sample.device + gap +
+                            QString::number(sample.kind) + gap + sample.quantity + gap +
+                            sample.unit;
+        index = index_.value(key, -1);
+        if (index < 0) {
+            trend_series s;
+            s.can_id = sample.can_id;
+            s.device = sample.device;
+            s.model = sample.model;
+            s.kind = sample.kind;
+            s.quantity = sample.quantity;
+            s.unit = sample.unit;
+            series_.push_back(s);
+            index = int(series_.size()) - 1;
+            index_.insert(key, index);
         }
-    }
-    if (index < 0) {
-        trend_series s;
-        s.can_id = sample.can_id;
-        s.device = sample.device;
-        s.model = sample.model;
-        s.kind = sample.kind;
-        s.quantity = sample.quantity;
-        s.unit = sample.unit;
-        series_.push_back(s);
-        index = int(series_.size()) - 1;
     }
     trend_series &s = series_[std::size_t(index)];
     const double t = double(sample.ms);
@@ -88,6 +86,12 @@ double trend_store::last_time() const {
     return last;
 }
 
+void trend_store::clear() {
+    series_.clear();
+    index_.clear();
+    last_hit_ = -1;
+}
+
 void trend_store::drop_before(double time) {
     for (trend_series &s : series_) {
         const int n = int(std::lower_bound(s.times.begin(), s.times.end(), time) - s.times.begin());
@@ -111,8 +115,7 @@ bool trend_store::load(const QString &path, QString *error, int *skipped) {
     const QByteArray data = mapped ? QByteArray::fromRawData(reinterpret_cast<const char *>(mapped),
                                                              static_cast<int>(size))
                                    : file.readAll();
-    series_.clear();
-    last_hit_ = -1;
+    clear();
     int bad = 0;
     int good = 0;
     device_sample sample;

@@ -2,6 +2,7 @@
 
 #include "device_sample.h"
 
+#include <QHash>
 #include <QPointF>
 #include <QString>
 #include <QVector>
@@ -44,7 +45,7 @@ public:
     double last_time() const;
     // Forgets what is older than `time` (a live window keeps a few hours).
     void drop_before(double time);
-    void clear() { series_.clear(); }
+    void clear();
 
     // Reads a recording (see record_format.h). False with `error` set when the file cannot be read
     // or holds no line of a recording; lines that are not a recording's are skipped and counted
@@ -60,5 +61,6 @@ public:
 
 private:
     std::vector<trend_series> series_;
-    int last_hit_ = -1;  // the series the previous sample went to
+    QHash<QString, int> index_;  // series by device, kind, quantity and unit
+    int last_hit_ = -1;          // the series the previous sample went to
 };

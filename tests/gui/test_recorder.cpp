@@ -291,6 +291,16 @@ private slots:
         trend_window again;
         QVERIFY(load(again, dir.filePath(QStringLiteral("out.csv"))));
         QCOMPARE(series_of(again), series);
+
+        // A drag over a chart shows that range and pauses; "Reset zoom" shows the whole file.
+        const double first = window.store().first_time(), last = window.store().last_time();
+        window.zoom_to(first + 400, last - 400);
+        QVERIFY(window.paused());
+        QCOMPARE(window.shown_from(), first + 400);
+        window.reset_zoom();
+        QVERIFY(!window.paused());
+        QCOMPARE(window.shown_from(), first);
+        QCOMPARE(window.shown_to(), last);
     }
 
     // Ctrl+T in the main window opens the live trend window, which follows what placed panels

@@ -415,6 +415,50 @@ private slots:
         }
     }
 
+    // Lively readings: a measured value carries a little noise and drift, the same for the same
+    // CAN ID every time, near the exact value of a steady device; a switched-off output is zero.
+    void lively_readings_move_a_little_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<pair_list>("writes");
+        QTest::addColumn<int>("read");
+        QTest::addColumn<bool>("moves");
+        const pair_list cw_on{{17, 5000}, {16, 1}};
+        QTest::newRow("CW current") << 14 << cw_on << 145 << true;
+        QTest::newRow("CW power, drifting with temperature") << 14 << cw_on << 148 << true;
+        QTest::newRow("CW current, emission off") << 14 << pair_list{} << 145 << false;
+        QTest::newRow("precision CW temperature") << 15 << pair_list{} << 146 << true;
+        QTest::newRow("heater temperature") << 4 << pair_list{{18, 800}, {33, 1}} << 146 << true;
+    }
+    void lively_readings_move_a_little() {
+        QFETCH(int, type);
+        QFETCH(pair_list, writes);
+        QFETCH(int, read);
+        QFETCH(bool, moves);
+        rig steady, lively, again;
+        QVERIFY(steady.add(3, type));
+        lively.add(3, type)->set_lively(true);
+        again.add(3, type)->set_lively(true);
+        QList<long> seen, seen_again;
+        for (rig *r : {&steady, &lively, &again}) {
+            for (const auto &w : writes) {
+                r->send(3, w.first, w.second);
+            }
+            r->bus.advance(60000);
+        }
+        for (int i = 0; i < 50; ++i) {
+            const long exact = *steady.value(3, read);
+            seen.append(*lively.value(3, read));
+            seen_again.append(*again.value(3, read));
+            QVERIFY2(qAbs(seen.last() - exact) <= qAbs(exact) / 100 + 2,
+                     qPrintable(QStringLiteral("%1 near %2").arg(seen.last()).arg(exact)));
+            for (rig *r : {&steady, &lively, &again}) {
+                r->bus.advance(1000);
+            }
+        }
+        QCOMPARE(seen_again, seen);
+        QCOMPARE(std::count(seen.begin(), seen.end(), seen.first()) < seen.size(), moves);
+    }
+
     // The energy-calibrated driver's voltage comes from its energy through the calibration rows:
     // 0.001·E³ - 0.02·E² + a1·E + 1 V, held to the 30.0 V maximum.
     void energy_calibration_sets_the_drive_voltage() {
