@@ -45,6 +45,8 @@ vtr_sns_panel::vtr_sns_panel(QWidget *parent) : panel_base(parent), ui(new Ui::v
     // What the device reports under 162 is kept and observed, not shown.
     bind_reading({monitor_code + 128, tr("Monitor"), {}, 10, 1}, &monitor_);
     reserve_text(ui->l_tec_state, tr("OFF"));
+    // The poll cycle does not ask for the alarm word; a word the device reports is shown.
+    bind_alarm(alarm_report, driver_alarm_texts(), {ui->l_alarm, ui->pb_alarm});
 
     bind_setpoint(ui->dsb_volt, sns_voltage_code, 100, &voltage_text_, 2);
     bind_setpoint(ui->dsb_volt_bias, bias_voltage_code, 1000);
@@ -78,6 +80,10 @@ void vtr_sns_panel::on_pb_on_off_clicked(bool checked) {
 
 void vtr_sns_panel::on_chb_tec_clicked(bool checked) {
     queue_tec(checked);
+}
+
+void vtr_sns_panel::on_pb_alarm_clicked() {
+    show_alarm_details();
 }
 
 double vtr_sns_panel::range_hz_per_unit() const {

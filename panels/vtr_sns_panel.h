@@ -33,6 +33,7 @@ public:
         sns_voltage_code = 32,  // 0.01 V
         tec_code = 33,
         monitor_code = 34,
+        alarm_report = 176,  // the drivers' alarm word, when the device reports it
     };
     // Items of `cb_freq_range`: the unit `dsb_freq` is in.
     enum frequency_range : int { range_hz, range_khz };
@@ -46,6 +47,7 @@ public slots:
     void on_pb_on_off_clicked(bool checked);
     void on_chb_tec_clicked(bool checked);
     void on_cb_freq_range_activated(int index);
+    void on_pb_alarm_clicked();
 
 protected:
     void refresh_display() override;

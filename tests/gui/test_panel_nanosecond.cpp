@@ -145,6 +145,11 @@ const struct {
     {"bias width", 36, "151:50", "l_width_bias", "5.0 t"},
     {"bias delay", 36, "149:20", "l_delay_bias", "2.0 t"},
     {"SNS TEC", 36, "161:1", "l_tec_state", "ON"},
+    {"SNS without alarm", 36, "176:0", "alarm", "hidden"},
+    {"SNS alarm 257", 36, "176:256 176:257", "alarm",
+     "flag_Rebooted\nOutput voltage is higher than 80% of input voltage, \nSOLUTION: increase the "
+     "input voltage\n"},
+    {"SNS alarm bits without a name", 36, "176:4100", "alarm", "flag_Overtemp\n"},
     {"current bar", 23, "152:2525", "i_current", "50"},
     {"temperature bar", 23, "146:275", "i_temp", "50"},
     {"bias bar spans its labels", 19, "185:500", "i_bias", "33"},
@@ -231,7 +236,15 @@ const struct {
     {"36", 36, "160:250 146:251 147:12000000", "Seed (12.00/2.50 V 20.0/25.1 °C 12kHz/12000 Hz)"},
 };
 
-QString shown_by(panel_base &panel, const QString &name) {
+QString shown_by(panel_base &panel, const QString &name, box_answerer &boxes) {
+    if (name == "alarm") {  // the alarm display, and the details box it opens
+        if (child<QWidget>(panel, "l_alarm")->isHidden()) {
+            return child<QWidget>(panel, "pb_alarm")->isHidden() ? "hidden" : "half shown";
+        }
+        boxes.expect(QStringLiteral("WARNING"), QMessageBox::Ok);
+        child<QPushButton>(panel, "pb_alarm")->click();
+        return boxes.shown.last().text;
+    }
     if (name.contains(':')) {
         auto *combo = child<QComboBox>(panel, name.section(':', 0, 0));
         auto *model = qobject_cast<QStandardItemModel *>(combo->model());
@@ -333,7 +346,7 @@ private slots:
         auto panel = make_panel(c.type);
         report_rows(*panel);
         report(*panel, c.reports);
-        QCOMPARE(shown_by(*panel, c.widget), QString(c.shown));
+        QCOMPARE(shown_by(*panel, c.widget, *boxes), QString(c.shown));
     }
 
     void values_on_a_grid_data() { add_rows(grid_cases); }
