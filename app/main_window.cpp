@@ -2,10 +2,10 @@
 
 #include "device_panel.h"
 #include "frame_codec.h"
+#include "observation_hub.h"
 #include "panel_registry.h"
 #include "serial_connector.h"
 #include "settings_file.h"
-#include "observation_hub.h"
 #include "trend_window.h"
 #include "ui_main_window.h"
 
@@ -481,6 +481,10 @@ void main_window::sl_tearing() {
 }
 
 void main_window::show_emission(bool on) {
+    if (emission_shown_ == static_cast<int>(on)) {
+        return;
+    }
+    emission_shown_ = static_cast<int>(on);
     ui->emit_on->setVisible(on);
     ui->emit_off->setVisible(!on);
     ui->emission_label->setText(on ? tr("Emission: ON") : tr("Emission: OFF"));

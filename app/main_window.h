@@ -124,6 +124,9 @@ private:
     // Position of the polling cycle in the device list. The program has one window, so this is
     // the one index of the whole program.
     int tearing_index_ = 0;
+    // What the emission indicators show now: -1 before the first showing, else 0 (off) or 1 (on).
+    // The tick sums the devices' emission states every 10 ms; the widgets change only with it.
+    int emission_shown_ = -1;
     port_lister list_ports_;
     QTimer *reconnect_timer_ = nullptr;
     QElapsedTimer last_attempt_;

@@ -25,6 +25,21 @@ namespace {
 // takes it while the program polls.
 std::mutex gates_lock;
 
+// Every device listening to the link is handed the same line in turn, in the link's thread; the
+// fields of the last line parsed in this thread serve the next device, so a line is cut once
+// however many devices there are.
+const frame_codec::parsed_line &parse_once(const QString &line) {
+    thread_local bool cached = false;
+    thread_local QString last_line;
+    thread_local frame_codec::parsed_line last;
+    if (!cached || line != last_line) {
+        last = frame_codec::parse(line);
+        last_line = line;
+        cached = true;
+    }
+    return last;
+}
+
 }  // namespace
 
 device::device(QWidget *host, const panel_registry *registry)
@@ -105,8 +120,7 @@ void device::rebuild_panel() {
     panel->set_can_id_source(&can_id_);
     panel->set_display_name(name_);
 
-    connect(this, &device::sig_parsed_data_received, panel,
-            &device_panel::sl_parsed_data_received);
+    connect(this, &device::sig_parsed_data_received, panel, &device_panel::sl_parsed_data_received);
     // Direct: the panel's frame is composed in the GUI thread, where the panel sends it, and goes
     // to the serial link in one queued hop instead of two; the emission state is an atomic store.
     // Neither touches anything of the device's thread.
@@ -126,7 +140,7 @@ void device::rebuild_panel() {
 }
 
 void device::sl_d_data_received(QString line) {
-    const frame_codec::parsed_line frame = frame_codec::parse(line);
+    const frame_codec::parsed_line frame = parse_once(line);
     if (!frame.is_frame ||
         !frame_codec::accepts(frame.sender, can_id_.load(), accept_any_sender_.load())) {
         return;
@@ -148,4 +162,6 @@ void device::sl_w_send_command(int code, long value) {
     emit sig_send_command(compose_write_frame(can_id_.load(), code, frame_codec::to_wire(value)));
 }
 
-void device::upd_emission_state(int state) { emission_state_.store(state); }
+void device::upd_emission_state(int state) {
+    emission_state_.store(state);
+}

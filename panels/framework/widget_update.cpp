@@ -27,6 +27,13 @@ double rounded(const QDoubleSpinBox *spin, double value) {
     return QString::number(value, 'f', spin->decimals()).toDouble();
 }
 
+// Whether `kept` (a bound or value the spin box holds, so already rounded) is what setting
+// `value` would keep. A steady reading usually equals it exactly, which spares the text round
+// trip of rounded() on every report.
+bool keeps(const QDoubleSpinBox *spin, double kept, double value) {
+    return kept == value || kept == rounded(spin, value);
+}
+
 }  // namespace
 
 void reserve_width(QLabel *label, const QString &widest) {
@@ -48,19 +55,19 @@ void set_text(QLabel *label, const QString &text) {
 }
 
 void set_maximum(QDoubleSpinBox *spin, double value) {
-    if (spin->maximum() != rounded(spin, value)) {
+    if (!keeps(spin, spin->maximum(), value)) {
         spin->setMaximum(value);
     }
 }
 
 void set_minimum(QDoubleSpinBox *spin, double value) {
-    if (spin->minimum() != rounded(spin, value)) {
+    if (!keeps(spin, spin->minimum(), value)) {
         spin->setMinimum(value);
     }
 }
 
 void set_value(QDoubleSpinBox *spin, double value) {
-    if (spin->value() != rounded(spin, value)) {
+    if (!keeps(spin, spin->value(), value)) {
         spin->setValue(value);
     }
 }
