@@ -6,6 +6,7 @@
 #include <QMutexLocker>
 
 #include <poll.h>
+#include <unistd.h>
 
 // Deliberately off by default (debug and below), unlike the link's other debug lines: with them,
 // every frame written and every line received would go to the debug log, two lines per request
@@ -133,8 +134,8 @@ void serial_connector::sl_serial_handle_error(QSerialPort::SerialPortError error
     if (!port_ || !port_->isOpen()) {
         return;
     }
-    const bool lost = error == QSerialPort::ResourceError ||
-                      (error == QSerialPort::ReadError && port_hung_up());
+    const bool lost =
+        error == QSerialPort::ResourceError || (error == QSerialPort::ReadError && port_hung_up());
     if (!lost) {
         return;
     }
@@ -199,7 +200,19 @@ void serial_connector::sl_send_string(QString text) {
     qCDebug(wire_log).noquote() << text;
     QByteArray bytes = text.toUtf8();
     bytes.append("\r\n", 2);
-    port_->write(bytes);
-    // Out now rather than on the port's next turn of the event loop: one turn less per frame.
-    port_->flush();
+    // Straight to the port's descriptor when nothing of an earlier string waits to go out: the
+    // port's own write() would arm its write notifier and take another turn of the event loop to
+    // disarm it, for every frame. What the descriptor does not take at once (a full buffer, an
+    // error) goes through the port's write(), which queues it and reports errors as usual.
+    qint64 done = 0;
+    if (port_->bytesToWrite() == 0) {
+        const ssize_t n = ::write(static_cast<int>(port_->handle()), bytes.constData(),
+                                  static_cast<size_t>(bytes.size()));
+        done = n > 0 ? n : 0;
+    }
+    if (done < bytes.size()) {
+        port_->write(bytes.constData() + done, bytes.size() - done);
+        // Out now rather than on the port's next turn of the event loop.
+        port_->flush();
+    }
 }
