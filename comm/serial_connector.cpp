@@ -202,8 +202,10 @@ void serial_connector::sl_send_string(QString text) {
     bytes.append("\r\n", 2);
     // Straight to the port's descriptor when nothing of an earlier string waits to go out: the
     // port's own write() would arm its write notifier and take another turn of the event loop to
-    // disarm it, for every frame. What the descriptor does not take at once (a full buffer, an
-    // error) goes through the port's write(), which queues it and reports errors as usual.
+    // disarm it, for every frame. What the descriptor does not take at once (the line is backed
+    // up, or an error) is queued in the port, whose write notifier sends it when the line takes
+    // it again and reports real errors as usual. No flush() there: writing to a full line fails
+    // with EAGAIN, which the port reports as a resource error, the same as an unplugged adapter.
     qint64 done = 0;
     if (port_->bytesToWrite() == 0) {
         const ssize_t n = ::write(static_cast<int>(port_->handle()), bytes.constData(),
@@ -212,7 +214,5 @@ void serial_connector::sl_send_string(QString text) {
     }
     if (done < bytes.size()) {
         port_->write(bytes.constData() + done, bytes.size() - done);
-        // Out now rather than on the port's next turn of the event loop.
-        port_->flush();
     }
 }

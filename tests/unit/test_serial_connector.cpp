@@ -105,13 +105,38 @@ private slots:
         QCOMPARE(l.link.port_name(), QStringLiteral("/dev/lumivox-no-such-port"));
     }
 
-    void frame_leaves_as_29_bytes() {
+    void frames_leave_whole_and_in_order_data() {
+        QTest::addColumn<int>("frames");
+        QTest::newRow("one frame, 29 bytes") << 1;
+        // More than the line buffers while nobody reads: part goes out at once, the rest waits
+        // in the port and follows in order.
+        QTest::newRow("more than the line holds unread") << 5000;
+    }
+
+    void frames_leave_whole_and_in_order() {
+        QFETCH(int, frames);
         open_link l;
         QVERIFY(l.open());
-        const QString frame = frame_codec::compose(5, 0x12, frame_codec::to_wire(-5));
-        in_link_thread(l.link, [&l, frame] { l.link.sl_send_string(frame); });
-        const QByteArray wire = l.pty.read_exactly(29);
-        QCOMPARE(wire, QByteArray("t005812220000fffffffb2c8f\r\n\r\n"));
+        QStringList texts;
+        QByteArray expected;
+        for (int i = 0; i < frames; ++i) {
+            texts << frame_codec::compose(5, 0x12, frame_codec::to_wire(i - 5));
+            expected += texts.last().toLatin1() + "\r\n";
+        }
+        in_link_thread(l.link, [&l, texts] {
+            for (const QString &text : texts) {
+                l.link.sl_send_string(text);
+            }
+        });
+        const QByteArray wire = l.pty.read_exactly(expected.size(), 20000);
+        QCOMPARE(wire.left(29), QByteArray("t005812220000fffffffb2c8f\r\n\r\n"));
+        QCOMPARE(wire.size(), expected.size());
+        int first_difference = 0;
+        while (first_difference < wire.size() &&
+               wire.at(first_difference) == expected.at(first_difference)) {
+            ++first_difference;
+        }
+        QCOMPARE(first_difference, expected.size());
     }
 
     void lines_are_cut_at_carriage_returns_data() {
@@ -119,8 +144,8 @@ private slots:
         QTest::addColumn<QStringList>("expected");
         const QByteArray a = "t0058910500000000000a1111";
         const QByteArray b = "t00689106000000000014222";
-        QTest::newRow("two frames in one read") << QList<QByteArray>{a + "\r" + b + "\r"}
-                                                << QStringList{a, b};
+        QTest::newRow("two frames in one read")
+            << QList<QByteArray>{a + "\r" + b + "\r"} << QStringList{a, b};
         QTest::newRow("line split across reads")
             << QList<QByteArray>{a.left(9), a.mid(9) + "\r"} << QStringList{a};
         QTest::newRow("line feed of the next read starts the next piece")
@@ -130,8 +155,8 @@ private slots:
         QTest::newRow("partial frame after the last carriage return is discarded")
             << QList<QByteArray>{a + "\r" + b.left(10), b.mid(10) + "\r"}
             << QStringList{a, b.mid(10)};
-        QTest::newRow("empty pieces skipped") << QList<QByteArray>{"\r\r" + a + "\r\r"}
-                                              << QStringList{a};
+        QTest::newRow("empty pieces skipped")
+            << QList<QByteArray>{"\r\r" + a + "\r\r"} << QStringList{a};
     }
     void lines_are_cut_at_carriage_returns() {
         QFETCH(QList<QByteArray>, chunks);
