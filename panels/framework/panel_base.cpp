@@ -255,8 +255,26 @@ void panel_base::take_parameter_report(int code, long value) {
 // --- Observers --------------------------------------------------------------------------------
 
 bool panel_base::observed() const {
-    static const QMetaMethod signal = QMetaMethod::fromSignal(&panel_base::sig_observed);
-    return isSignalConnected(signal);
+    int state = observed_state_.load();
+    if (state < 0) {
+        static const QMetaMethod signal = QMetaMethod::fromSignal(&panel_base::sig_observed);
+        state = isSignalConnected(signal) ? 1 : 0;
+        observed_state_.store(state);
+    }
+    return state == 1;
+}
+
+void panel_base::connectNotify(const QMetaMethod &signal) {
+    if (signal == QMetaMethod::fromSignal(&panel_base::sig_observed)) {
+        observed_state_.store(-1);
+    }
+}
+
+void panel_base::disconnectNotify(const QMetaMethod &signal) {
+    // An invalid method: every signal of the panel was disconnected at once.
+    if (!signal.isValid() || signal == QMetaMethod::fromSignal(&panel_base::sig_observed)) {
+        observed_state_.store(-1);
+    }
 }
 
 void panel_base::observe(panel_observation::kind_t kind, const QString &quantity, double value,

@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include <atomic>
 #include <functional>
 
 class QAbstractButton;
@@ -226,11 +227,17 @@ private:
     };
 
     void take_parameter_report(int code, long value);
+    // Whether sig_observed has receivers. Qt's own check takes a lock that the serial link's
+    // thread holds while it queues an answer for this panel, so asking it on every report often
+    // put the GUI thread to sleep; the answer is kept until a connection of the signal changes.
     bool observed() const;
+    void connectNotify(const QMetaMethod &signal) override;
+    void disconnectNotify(const QMetaMethod &signal) override;
     void observe(panel_observation::kind_t kind, const QString &quantity, double value,
                  const QString &unit, const QString &text = {});
     void observe_sent(const panel_command &command);
 
+    mutable std::atomic<int> observed_state_{-1};  // -1: ask Qt, else 0 or 1
     poll_plan plan_;
     parameter_list parameters_;
     QVector<panel_command> queue_;
