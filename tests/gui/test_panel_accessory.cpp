@@ -84,18 +84,10 @@ void run(panel_base &panel, box_answerer &boxes, const QString &script) {
 
 }  // namespace
 
-class test_panel_accessory : public QObject {
+class test_panel_accessory : public boxed_test {
     Q_OBJECT
 
-    std::unique_ptr<box_answerer> boxes;
-
 private slots:
-    void init() { boxes = std::make_unique<box_answerer>(); }
-    void cleanup() {
-        boxes->verify_all_answered();
-        boxes.reset();
-    }
-
     void script_data() {
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("script");

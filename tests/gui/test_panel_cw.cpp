@@ -77,18 +77,10 @@ const QStringList full_labels{"CAN ID",
 
 }  // namespace
 
-class test_panel_cw : public QObject {
+class test_panel_cw : public boxed_test {
     Q_OBJECT
 
-    std::unique_ptr<box_answerer> boxes;
-
 private slots:
-    void init() { boxes = std::make_unique<box_answerer>(); }
-    void cleanup() {
-        boxes->verify_all_answered();
-        boxes.reset();
-    }
-
     void model_strings_data() {
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("model");

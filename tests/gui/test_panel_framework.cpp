@@ -84,10 +84,8 @@ public slots:
     void on_pb_alarn_clicked() {}
 };
 
-class test_panel_framework : public QObject {
+class test_panel_framework : public boxed_test {
     Q_OBJECT
-
-    std::unique_ptr<box_answerer> boxes;
 
     void add_panel_types() {
         QTest::addColumn<int>("type");
@@ -97,12 +95,6 @@ class test_panel_framework : public QObject {
     }
 
 private slots:
-    void init() { boxes = std::make_unique<box_answerer>(); }
-    void cleanup() {
-        boxes->verify_all_answered();
-        boxes.reset();
-    }
-
     void registry_has_the_cw_panels() {
         const QList<int> types = panel_types();
         for (int type : {14, 15, 34, 38}) {

@@ -41,18 +41,10 @@ void report_rows(panel_base &panel, long max_raw = 10000) {
 
 }  // namespace
 
-class test_panel_high_power : public QObject {
+class test_panel_high_power : public boxed_test {
     Q_OBJECT
 
-    std::unique_ptr<box_answerer> boxes;
-
 private slots:
-    void init() { boxes = std::make_unique<box_answerer>(); }
-    void cleanup() {
-        boxes->verify_all_answered();
-        boxes.reset();
-    }
-
     // Enter and Yes on a widget after typing: the first tick after, then the header once collapsed.
     void enter_sends_data() {
         QTest::addColumn<int>("type");

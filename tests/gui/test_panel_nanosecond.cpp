@@ -266,18 +266,10 @@ QString shown_by(panel_base &panel, const QString &name, box_answerer &boxes) {
 
 }  // namespace
 
-class test_panel_nanosecond : public QObject {
+class test_panel_nanosecond : public boxed_test {
     Q_OBJECT
 
-    std::unique_ptr<box_answerer> boxes;
-
 private slots:
-    void init() { boxes = std::make_unique<box_answerer>(); }
-    void cleanup() {
-        boxes->verify_all_answered();
-        boxes.reset();
-    }
-
     void poll_list_and_rows_data() { add_rows(descriptions); }
     void poll_list_and_rows() {
         QFETCH(int, row);

@@ -93,18 +93,10 @@ const QString alarm_80 =
 
 }  // namespace
 
-class test_panel_picosecond : public QObject {
+class test_panel_picosecond : public boxed_test {
     Q_OBJECT
 
-    std::unique_ptr<box_answerer> boxes;
-
 private slots:
-    void init() { boxes = std::make_unique<box_answerer>(); }
-    void cleanup() {
-        boxes->verify_all_answered();
-        boxes.reset();
-    }
-
     void behaviour_data() {
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("script");

@@ -83,7 +83,8 @@ public:
     QList<message_request> shown;  // every box asked, in order
     QStringList unexpected;        // title and text of each box nobody expected
 
-    // For a test's cleanup(): fails on a box nobody expected and on an expected box that never came.
+    // For a test's cleanup(): fails on a box nobody expected and on an expected box that never
+    // came.
     void verify_all_answered() const {
         QVERIFY2(unexpected.isEmpty(), qPrintable(unexpected.join(QStringLiteral(" | "))));
         QCOMPARE(pending(), 0);
@@ -106,6 +107,22 @@ private:
 
     QList<expectation> expected_;
     message_answerer previous_;
+};
+
+// The base of the panel tests: each test function answers boxes through `boxes`, and fails on a
+// box nobody expected or an expected one that never came.
+class boxed_test : public QObject {
+    Q_OBJECT
+
+protected:
+    std::unique_ptr<box_answerer> boxes;
+
+private slots:
+    void init() { boxes = std::make_unique<box_answerer>(); }
+    void cleanup() {
+        boxes->verify_all_answered();
+        boxes.reset();
+    }
 };
 
 // Records warnings (and worse) while it exists; every message still reaches the previous handler,
