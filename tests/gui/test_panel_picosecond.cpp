@@ -1,15 +1,6 @@
 // The picosecond panels (types 20, 26, 28, 35): each row runs a script of reports and operator
-// actions, then checks what is sent and shown. Script: "code=value" a report; "rows" every
-// configuration row; "fill" the rows and every polled code the script does not give (as 0), so
-// that the first fill runs; "yes", "no", "ok" answer the next box; "ret:w" Return on w; "click:w";
-// "w=v" picks item v of a combo box as the operator does, or sets a spin box. Checks, separated by
-// ";": "sent=..." the ticks that follow; "w.property=value"; "w.hidden"; "w.item<i>" (can combo
-// item i be chosen); "box" the last box's text; "rows" the parameters as code/decimals/step.
+// actions, then checks what is sent and shown (see run_script() and check_script()).
 #include "test_panel_support.h"
-
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QStandardItemModel>
 
 using namespace panel_test;
 
@@ -20,68 +11,6 @@ namespace {
 const QMap<int, long> raw_rows{{81, 5},     {37, 300},   {38, 100},    {55, 400}, {54, 200},
                                {22, 10000}, {21, 3950},  {68, 1000},   {69, 200}, {70, 0},
                                {56, 1000},  {57, -2000}, {58, 150000}, {59, 0},   {61, 500}};
-
-QWidget *find(panel_base &panel, const QString &name) {
-    auto *found = panel.findChild<QWidget *>(name);
-    if (!found) {
-        qFatal("no %s", qPrintable(name));
-    }
-    return found;
-}
-
-void run(panel_base &panel, box_answerer &boxes, const QString &script) {
-    const QMap<QString, QMessageBox::StandardButton> answers{
-        {"yes", QMessageBox::Yes}, {"no", QMessageBox::No}, {"ok", QMessageBox::Ok}};
-    for (const QString &step : script.split(' ', Qt::SkipEmptyParts)) {
-        const QString name = step.section(':', -1).section('=', 0, 0);
-        const QString value = step.section('=', 1);
-        if (step == QLatin1String("rows") || step == QLatin1String("fill")) {
-            for (int code : panel.plan().read_codes) {
-                if (step == QLatin1String("fill") && code != poll_plan::silent &&
-                    !script.contains(QString::number(code) + '=')) {
-                    panel.sl_parsed_data_received(code, 0);
-                }
-            }
-            const parameter_list rows = panel.parameters();
-            report_parameters(panel, [&rows](int i) { return raw_rows.value(rows[i].code); });
-        } else if (step.at(0).isDigit()) {
-            panel.sl_parsed_data_received(name.toInt(), value.toLong());
-        } else if (answers.contains(step)) {
-            boxes.expect(step == "ok" ? "WARNING" : "Conformation", answers[step]);
-        } else if (step.startsWith(QLatin1String("ret:"))) {
-            QTest::keyClick(find(panel, name), Qt::Key_Return);
-        } else if (step.startsWith(QLatin1String("click:"))) {
-            static_cast<QAbstractButton *>(find(panel, name))->click();
-        } else if (auto *combo = qobject_cast<QComboBox *>(find(panel, name))) {
-            combo->setCurrentIndex(value.toInt());
-            emit combo->activated(combo->currentIndex());
-        } else {
-            find(panel, name)->setProperty("value", value.toDouble());
-        }
-    }
-}
-
-QString state_of(panel_base &panel, const box_answerer &boxes, const QString &key) {
-    if (key == QLatin1String("box")) {
-        return boxes.shown.isEmpty() ? QString() : boxes.shown.last().text;
-    }
-
-    if (key == QLatin1String("rows")) {
-        QStringList rows;
-        for (const parameter_record &r : panel.parameters()) {
-            rows << QStringLiteral("%1/%2/%3").arg(r.code).arg(r.decimals).arg(r.step);
-        }
-        return rows.join(' ');
-    }
-    QWidget *w = find(panel, key.section('.', 0, 0));
-    const QString property = key.section('.', 1);
-    if (property.startsWith(QLatin1String("item"))) {
-        auto *items = static_cast<QStandardItemModel *>(static_cast<QComboBox *>(w)->model());
-        return QVariant(items->item(property.mid(4).toInt())->isEnabled()).toString();
-    }
-    return property == QLatin1String("hidden") ? QVariant(w->isHidden()).toString()
-                                               : w->property(qPrintable(property)).toString();
-}
 
 const QString ps_rows =
     "81/0/1 37/1/0.1 38/1/0.1 55/1/0.1 54/1/0.1 22/0/1 21/0/0.1 68/4/0.1 "
@@ -207,16 +136,7 @@ private slots:
         QFETCH(int, type);
         QFETCH(QString, script);
         QFETCH(QString, checks);
-        auto panel = make_panel(type);
-        run(*panel, *boxes, script);
-        for (const QString &check : checks.split(';', Qt::SkipEmptyParts)) {
-            const QString key = check.section('=', 0, 0);
-            const QString got = key == QLatin1String("sent")
-                                    ? text_of(run_ticks(*panel, check.count(' ') + 1))
-                                    : state_of(*panel, *boxes, key);
-            QCOMPARE(key + '=' + got, check);
-        }
-        QCOMPARE(panel->queued_commands(), 0);
+        check_script(type, *boxes, script, checks, raw_rows);
     }
 };
 
