@@ -2,6 +2,7 @@
 // What the panel tests share: the program's registry, a scripted answerer for message boxes, a
 // catcher for warnings, and ticking a panel while recording what it sends.
 
+#include "config_dialog.h"
 #include "message_route.h"
 #include "panel_base.h"
 #include "panel_registry.h"
@@ -11,6 +12,7 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QStringList>
@@ -209,8 +211,9 @@ void report_parameters(panel_base &panel, Raw raw) {
 // Runs an operator and device script on `panel`, steps separated by spaces: "CODE=VALUE" a report;
 // "rows" every configuration row, raw values from `raw` by code; "fill" the rows and every polled
 // code the script does not give (as 0), so that the first fill runs; "yes", "no", "ok" answer the
-// next box; "ret:W" Return on W; "click:W"; "type:W=TEXT" types TEXT into W; "W=V" picks item V
-// of a combo box as the operator does, or sets a spin box.
+// next box; "ret:W" Return on W; "click:W"; "type:W=TEXT" types TEXT into W; "write" the
+// configuration dialog's "Write"; "W=V" picks item V of a combo box as the operator does, or sets
+// a spin box.
 inline void run_script(panel_base &panel, box_answerer &boxes, const QString &script,
                        const QMap<int, long> &raw) {
     const QMap<QString, QMessageBox::StandardButton> answers{
@@ -235,6 +238,9 @@ inline void run_script(panel_base &panel, box_answerer &boxes, const QString &sc
             QTest::keyClick(child<QWidget>(panel, name), Qt::Key_Return);
         } else if (step.startsWith(QLatin1String("click:"))) {
             child<QAbstractButton>(panel, name)->click();
+        } else if (step == QLatin1String("write")) {
+            panel.on_toolButton_clicked();
+            panel.configuration_dialog()->write_button()->click();
         } else if (step.startsWith(QLatin1String("type:"))) {
             auto *spin = child<QAbstractSpinBox>(panel, name);
             spin->clear();
