@@ -213,7 +213,7 @@ void report_parameters(panel_base &panel, Raw raw) {
 // code the script does not give (as 0), so that the first fill runs; "yes", "no", "ok" answer the
 // next box; "ret:W" Return on W; "click:W"; "type:W=TEXT" types TEXT into W; "write" the
 // configuration dialog's "Write"; "W=V" picks item V of a combo box as the operator does, or sets
-// a spin box.
+// a spin box; "W.PROPERTY=V" sets a property.
 inline void run_script(panel_base &panel, box_answerer &boxes, const QString &script,
                        const QMap<int, long> &raw) {
     const QMap<QString, QMessageBox::StandardButton> answers{
@@ -245,11 +245,15 @@ inline void run_script(panel_base &panel, box_answerer &boxes, const QString &sc
             auto *spin = child<QAbstractSpinBox>(panel, name);
             spin->clear();
             QTest::keyClicks(spin, value);
-        } else if (auto *combo = qobject_cast<QComboBox *>(child<QWidget>(panel, name))) {
+        } else if (auto *combo =
+                       qobject_cast<QComboBox *>(child<QWidget>(panel, name.section('.', 0, 0)))) {
             combo->setCurrentIndex(value.toInt());
             emit combo->activated(combo->currentIndex());
         } else {
-            child<QWidget>(panel, name)->setProperty("value", value.toDouble());
+            const QString property = name.section('.', 1);
+            child<QWidget>(panel, name.section('.', 0, 0))
+                ->setProperty(property.isEmpty() ? "value" : qPrintable(property),
+                              value.toDouble());
         }
     }
 }
