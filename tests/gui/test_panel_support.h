@@ -1,6 +1,7 @@
 #pragma once
-// What the panel tests share: the program's registry, a scripted answerer for message boxes, a
-// catcher for warnings, and ticking a panel while recording what it sends.
+// What the panel tests share: the program's registry, a scripted answerer for message boxes,
+// ticking a panel while recording what it sends, and a script runner for operator and device
+// actions.
 
 #include "config_dialog.h"
 #include "message_route.h"
@@ -129,37 +130,6 @@ private slots:
         boxes->verify_all_answered();
         boxes.reset();
     }
-};
-
-// Records warnings (and worse) while it exists; every message still reaches the previous handler,
-// so Qt Test's expectations on messages keep working.
-class warning_catcher {
-public:
-    warning_catcher() : previous_(qInstallMessageHandler(&handle)) { active_ = this; }
-    ~warning_catcher() {
-        qInstallMessageHandler(previous_);
-        active_ = nullptr;
-    }
-    warning_catcher(const warning_catcher &) = delete;
-    warning_catcher &operator=(const warning_catcher &) = delete;
-
-    QStringList warnings;
-
-private:
-    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text) {
-        if (!active_) {
-            return;
-        }
-        if (type != QtDebugMsg && type != QtInfoMsg) {
-            active_->warnings.append(text);
-        }
-        if (active_->previous_) {
-            active_->previous_(type, context, text);
-        }
-    }
-
-    static inline warning_catcher *active_ = nullptr;
-    QtMessageHandler previous_;
 };
 
 // Marks a tick that sent nothing, and a tick that sent more than one pair.
