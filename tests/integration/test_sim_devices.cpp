@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include <optional>
+#include <tuple>
 
 namespace QTest {
 // Failure messages show what a read answered.
@@ -128,7 +129,7 @@ void add_type_rows() {
 }
 
 // Ramp-driven types: emission switch, drive code, a set point inside the limits and the reading
-// it gives (report units differ from set units on the precision driver).
+// it gives.
 struct drive_case {
     int type;
     int emission;
@@ -241,8 +242,8 @@ private slots:
     }
 
     // Writes, waits and reads on one device: "C=V" writes V to code C, "+N" lets N ms pass, "reset"
-    // restarts the device, "rC=V" reads V from code C ("rC=-": no answer), "rC>V" and "rC<V" a
-    // value above or below V.
+    // restarts the device, "alarm=B" raises alarm bits B, "clear" clears them, "rC=V" reads V from
+    // code C ("rC=-": no answer), "rC>V" and "rC<V" a value above or below V.
     void scripted_data() {
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("script");
@@ -287,6 +288,41 @@ private slots:
         row("normal: burst", 29, "53=5 r181=5");
         row("sync mode stored", 29, "73=1 82=0 reset r201=1");
         row("sync mode not stored", 29, "73=1 reset r201=0");
+        // The pulse picker's output rate from its 1 MHz seed: open, closed, divided, in bursts.
+        row("picker open", 5, "r150=1000000 16=0 r149=1000000");
+        row("picker closed", 5, "16=1 r149=0");
+        row("picker divides by 4", 5, "18=4 16=2 r149=250000");
+        row("picker bursts of 1 in 3", 5, "19=1 20=2 16=3 r149=333333");
+        // A ramp-driven output stays at zero while emission is off, then ramps to its set point
+        // (report units differ from set units on the precision driver) and back to zero.
+        for (const drive_case &c : drive_cases) {
+            QTest::addRow("type %d ramps", c.type)
+                << c.type
+                << QStringLiteral(
+                       "%1=%2 +5000 r%3=0 %4=1 r%5=1 +10 r%3>0 r%3<%6 +60000 r%3=%6 %4=0 "
+                       "+60000 r%3=0")
+                       .arg(c.drive)
+                       .arg(c.set)
+                       .arg(c.drive + 128)
+                       .arg(c.emission)
+                       .arg(c.emission + 128)
+                       .arg(c.reading);
+        }
+        // Warnings (rebooted, output voltage advice) leave the output on; an interlock turns it
+        // off until the alarm is cleared (on the high-power family by command 41).
+        const std::tuple<int, int, const char *> alarms[] = {
+            {14, 16, "clear"}, {34, 16, "clear"}, {38, 16, "clear"}, {35, 34, "clear"},
+            {18, 16, "41=1"},  {25, 16, "41=1"},  {27, 16, "41=1"}};
+        for (const auto &[type, emission, clear] : alarms) {
+            QTest::addRow("type %d alarm word", type)
+                << type
+                << QStringLiteral(
+                       "r176=0 %1=1 alarm=257 r176=257 r%2=1 alarm=2 r176=259 r%2=0 %1=1 "
+                       "r%2=0 %3 r176=0 %1=1 r%2=1")
+                       .arg(emission)
+                       .arg(emission + 128)
+                       .arg(clear);
+        }
     }
     void scripted() {
         QFETCH(int, type);
@@ -297,6 +333,10 @@ private slots:
         for (const QString &step : script.split(' ')) {
             if (step == QLatin1String("reset")) {
                 dev->reset();
+            } else if (step == QLatin1String("clear")) {
+                dev->clear_alarm();
+            } else if (step.startsWith(QLatin1String("alarm="))) {
+                QVERIFY(dev->raise_alarm(step.mid(6).toInt()));
             } else if (step.startsWith('+')) {
                 r.bus.advance(step.mid(1).toInt());
             } else if (!step.startsWith('r')) {
@@ -314,43 +354,6 @@ private slots:
                 }
             }
         }
-    }
-
-    void drive_ramps_after_emission_on_data() {
-        QTest::addColumn<int>("emission");
-        QTest::addColumn<int>("drive");
-        QTest::addColumn<long>("set");
-        QTest::addColumn<long>("reading");
-        QTest::addColumn<int>("type");
-        for (const drive_case &c : drive_cases) {
-            QTest::newRow(qPrintable(QStringLiteral("type %1").arg(c.type)))
-                << c.emission << c.drive << c.set << c.reading << c.type;
-        }
-    }
-    void drive_ramps_after_emission_on() {
-        QFETCH(int, type);
-        QFETCH(int, emission);
-        QFETCH(int, drive);
-        QFETCH(long, set);
-        QFETCH(long, reading);
-        rig r;
-        QVERIFY(r.add(1, type));
-        const int report = drive + 128;
-        r.send(1, drive, set);
-        r.bus.advance(5000);
-        QCOMPARE(r.value(1, report), std::optional<long>(0));  // no output while emission is off
-
-        r.send(1, emission, 1);
-        QCOMPARE(r.value(1, emission + 128), std::optional<long>(1));
-        r.bus.advance(10);
-        const long early = *r.value(1, report);
-        QVERIFY2(early > 0 && early < reading, qPrintable(QString::number(early)));
-        r.bus.advance(60000);
-        QCOMPARE(r.value(1, report), std::optional<long>(reading));
-
-        r.send(1, emission, 0);
-        r.bus.advance(60000);
-        QCOMPARE(r.value(1, report), std::optional<long>(0));
     }
 
     void temperature_settles_towards_its_set_point_data() {
@@ -444,30 +447,6 @@ private slots:
         QCOMPARE(std::count(seen.begin(), seen.end(), seen.first()) < seen.size(), moves);
     }
 
-    void pulse_picker_rate_follows_its_mode_data() {
-        QTest::addColumn<pair_list>("writes");
-        QTest::addColumn<long>("numerator");  // output rate = seed × numerator / denominator
-        QTest::addColumn<long>("denominator");
-        using w = pair_list;
-        QTest::newRow("open") << w{{16, 0}} << 1L << 1L;
-        QTest::newRow("closed") << w{{16, 1}} << 0L << 1L;
-        QTest::newRow("divide by 4") << w{{18, 4}, {16, 2}} << 1L << 4L;
-        QTest::newRow("burst 1 of 3") << w{{19, 1}, {20, 2}, {16, 3}} << 1L << 3L;
-    }
-    void pulse_picker_rate_follows_its_mode() {
-        QFETCH(pair_list, writes);
-        QFETCH(long, numerator);
-        QFETCH(long, denominator);
-        rig r;
-        QVERIFY(r.add(8, 5));
-        const long seed = *r.value(8, 150);
-        QVERIFY(seed > 0);
-        for (const auto &wr : writes) {
-            r.send(8, wr.first, wr.second);
-        }
-        QCOMPARE(r.value(8, 149), std::optional<long>(seed * numerator / denominator));
-    }
-
     void store_keeps_configuration_over_a_reset_data() {
         QTest::addColumn<int>("type");
         QTest::addColumn<int>("store");
@@ -558,46 +537,6 @@ private slots:
             QCOMPARE(a.frame.sender, 0x21);  // the device still names itself
             QCOMPARE(long(a.frame.value), 0x21L);
         }
-    }
-
-    void alarm_word_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("emission");
-        QTest::addColumn<int>("clear");  // clearing command, -1: none on the wire
-        QTest::newRow("CW") << 14 << 16 << -1;
-        QTest::newRow("CW 250") << 34 << 16 << -1;
-        QTest::newRow("CW 450") << 38 << 16 << -1;
-        QTest::newRow("picosecond module") << 35 << 34 << -1;
-        QTest::newRow("ZEMA-1200") << 18 << 16 << 41;
-        QTest::newRow("ZEMA-240") << 25 << 16 << 41;
-        QTest::newRow("ZEMA-120") << 27 << 16 << 41;
-    }
-    void alarm_word() {
-        QFETCH(int, type);
-        QFETCH(int, emission);
-        QFETCH(int, clear);
-        rig r;
-        sim_device *dev = r.add(3, type);
-        QCOMPARE(r.value(3, 176), std::optional<long>(0));
-        r.send(3, emission, 1);
-        QVERIFY(dev->raise_alarm(0x0101));  // rebooted + output voltage advice: warnings only
-        QCOMPARE(r.value(3, 176), std::optional<long>(0x0101));
-        QCOMPARE(r.value(3, emission + 128), std::optional<long>(1));
-
-        QVERIFY(dev->raise_alarm(0x0002));  // interlock: the output goes off and stays off
-        QCOMPARE(r.value(3, 176), std::optional<long>(0x0103));
-        QCOMPARE(r.value(3, emission + 128), std::optional<long>(0));
-        r.send(3, emission, 1);
-        QCOMPARE(r.value(3, emission + 128), std::optional<long>(0));
-
-        if (clear >= 0) {
-            r.send(3, clear, 1);
-        } else {
-            dev->clear_alarm();
-        }
-        QCOMPARE(r.value(3, 176), std::optional<long>(0));
-        r.send(3, emission, 1);
-        QCOMPARE(r.value(3, emission + 128), std::optional<long>(1));
     }
 
     void types_without_alarm_word_refuse_alarms() {
