@@ -1,5 +1,5 @@
 // What the panel framework promises every panel, checked on every registered panel type, plus the
-// framework's pure parts (scaling, the poll step) on the shapes of poll plan the panels use.
+// framework's scaling.
 #include "config_dialog.h"
 #include "scaling.h"
 #include "test_panel_support.h"
@@ -440,53 +440,6 @@ private slots:
         QFETCH(int, share);
         const std::optional<int> result = scaling::percent(value, low, high);
         QCOMPARE(result.value_or(-1000), share);
-    }
-
-    // Cycles of the plan shapes the panels use, all parameters unknown except where stated.
-    void poll_step_shapes_data() {
-        QTest::addColumn<QVector<int>>("codes");
-        QTest::addColumn<int>("unknown_from");
-        QTest::addColumn<double>("mark");
-        QTest::addColumn<QVector<double>>("values");  // one per parameter (codes 81, 37, 38)
-        QTest::addColumn<QString>("cycle");           // two cycles
-        const int s = poll_plan::silent;
-        const double u = -1.0;
-        QTest::newRow("plain list, two unknown")
-            << QVector<int>{144, 145} << -1 << -1.0 << QVector<double>{u, 5, u}
-            << "144 145 209 166 144 145 209 166";
-        QTest::newRow("silent position") << QVector<int>{144, s, 148} << -1 << -1.0
-                                         << QVector<double>{1, 2, 3} << "144 - 148 144 - 148";
-        QTest::newRow("gap before unknown rows (heater)")
-            << QVector<int>{161, 146} << 3 << -1.0 << QVector<double>{u, 2, 3}
-            << "161 146 - 209 161 146 - 209";
-        QTest::newRow("list shorter than cycle, all known")
-            << QVector<int>{144, 145} << 3 << -1.0 << QVector<double>{1, 2, 3}
-            << "144 145 - 144 145 -";
-        QTest::newRow("other unknown mark: -1 counts as known")
-            << QVector<int>{160} << -1 << 4294967295.0 << QVector<double>{-1, 4294967295.0, 7}
-            << "160 165 160 165";
-    }
-    void poll_step_shapes() {
-        QFETCH(QVector<int>, codes);
-        QFETCH(int, unknown_from);
-        QFETCH(double, mark);
-        QFETCH(QVector<double>, values);
-        QFETCH(QString, cycle);
-        poll_plan plan;
-        plan.read_codes = codes;
-        plan.unknown_rows_from = unknown_from;
-        plan.unknown_mark = mark;
-        parameter_list parameters{{81, "CAN ID", 0, values[0], 1},
-                                  {37, "Max", 1, values[1], 1},
-                                  {38, "Min", 1, values[2], 1}};
-        int index = 0;
-        QStringList sent;
-        const int ticks = cycle.split(' ').size();
-        for (int i = 0; i < ticks; ++i) {
-            const std::optional<int> code = poll_step(plan, parameters, index);
-            sent.append(code ? QString::number(*code) : QStringLiteral("-"));
-        }
-        QCOMPARE(sent.join(' '), cycle);
     }
 };
 

@@ -10,7 +10,6 @@
 #include "sim_pty.h"
 
 #include <QPointer>
-#include <QSignalSpy>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -249,20 +248,6 @@ private slots:
         QVERIFY(bring_up(dev));
         QCOMPARE(dev.type_id(), 20);
         QCOMPARE(program.built, (QList<int>{20, 20}));
-    }
-
-    void adapter_hang_up_disconnects_the_link() {
-        bus_side sim({{1, 5}});
-        program_side program({1});
-        QVERIFY(program.open(sim.pty.slave_path()));
-        QVERIFY(bring_up(program.at(0)));
-        QCOMPARE(program.disconnected.count(), 0);
-        sim.pty.hang_up();
-        QVERIFY(program.disconnected.wait_for(1));
-        // The link stops pulsing the polling cycle once its port is gone.
-        QSignalSpy tearing(&program.link, &serial_connector::sig_tearing);
-        run_in(&program.link, [&program] { program.link.sl_sender(); });
-        QCOMPARE(tearing.count(), 0);
     }
 };
 
