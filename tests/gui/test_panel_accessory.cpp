@@ -1,6 +1,6 @@
 // The accessory and comb panels: `heater` (type 4), `pulse_picker` (type 5) and `comb_laser`
 // (type 17). Each row runs a script of reports and operator actions, then checks what is sent and
-// shown (see run_script() and check_script()).
+// shown (see check_script() and run_script()).
 #include "test_panel_support.h"
 
 using namespace panel_test;
@@ -19,12 +19,8 @@ class test_panel_accessory : public boxed_test {
 
 private slots:
     void behaviour_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("checks");
-        const auto row = [](const char *name, int type, const char *script, const char *checks) {
-            QTest::newRow(name) << type << script << checks;
-        };
+        script_columns();
+        const auto row = script_row;
         row("heater cycle, idle tick, then the CAN ID", 4, "",
             "sent=(161,0) (146,0) - (209,0) (161,0);laser_name_label.text=Heater;"
             "alt_but_widget.hidden=false");
@@ -83,12 +79,7 @@ private slots:
             "temp_min_label.text=15.0;spin.text=123.4 mA;spin_temp.text=25.1°C;"
             "dsb_bias.text=2.50 V;tem_indicator.value=50");
     }
-    void behaviour() {
-        QFETCH(int, type);
-        QFETCH(QString, script);
-        QFETCH(QString, checks);
-        check_script(type, *boxes, script, checks, raw_rows);
-    }
+    void behaviour() { check_script(*boxes, raw_rows); }
 };
 
 QTEST_MAIN(test_panel_accessory)

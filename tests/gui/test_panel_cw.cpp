@@ -1,6 +1,6 @@
 // The CW driver panels: `cw_panel` for device types 14, 34 and 38 and the precision panel
 // `vtr_cw_1800_zif` for type 15. Each row runs a script of reports and operator actions, then
-// checks what is sent and shown (see run_script() and check_script()).
+// checks what is sent and shown (see check_script() and run_script()).
 #include "config_dialog.h"
 #include "test_panel_support.h"
 
@@ -36,13 +36,8 @@ class test_panel_cw : public boxed_test {
 
 private slots:
     void behaviour_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("checks");
-        const auto row = [](const char *name, int type, const QString &script,
-                            const QString &checks) {
-            QTest::newRow(name) << type << script << checks;
-        };
+        script_columns();
+        const auto row = script_row;
         // Models, mode widgets, poll cycles with every row known and with none.
         row("14 known", 14, "rows",
             "laser_name_label.text=VTR-CW-1800;mode.hidden=false;mode_label.hidden=false;"
@@ -165,9 +160,7 @@ private slots:
     }
     void behaviour() {
         QFETCH(int, type);
-        QFETCH(QString, script);
-        QFETCH(QString, checks);
-        check_script(type, *boxes, script, checks, type == 15 ? precision_raw : cw_raw);
+        check_script(*boxes, type == 15 ? precision_raw : cw_raw);
     }
 
     void dialog_changes_are_sent_at_once_data() {

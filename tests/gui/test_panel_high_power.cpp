@@ -1,6 +1,6 @@
 // The high-power driver panels: `zema_panel` (type 18), the compact `zema120_panel` (27) and
 // `zema240_panel` (25). Rows run a script of reports and operator actions, then check what is
-// sent and shown (see run_script() and check_script()).
+// sent and shown (see check_script() and run_script()).
 #include "test_panel_support.h"
 
 #include <QLabel>
@@ -38,13 +38,8 @@ class test_panel_high_power : public boxed_test {
 
 private slots:
     void behaviour_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("checks");
-        const auto row = [](const char *name, int type, const QString &script,
-                            const QString &checks) {
-            QTest::newRow(name) << type << script << checks;
-        };
+        script_columns();
+        const auto row = script_row;
         // Models; poll cycles with every row known, the compact driver idles at 6; step sizes.
         const QString in = "sent=(144,0) (145,0) (146,0) ";
         row("18 cycle", 18, "rows",
@@ -108,12 +103,7 @@ private slots:
         row("18 Clear sends its pair twice", 18,
             reports(5000, 175, 3, 0, 1, 1) + " click:pb_alarm_clear", "sent=(41,1) (41,1)");
     }
-    void behaviour() {
-        QFETCH(int, type);
-        QFETCH(QString, script);
-        QFETCH(QString, checks);
-        check_script(type, *boxes, script, checks, raw_rows);
-    }
+    void behaviour() { check_script(*boxes, raw_rows); }
 
     // The dialog names the address 0xFA; a changed row is written at once except on the compact
     // driver, which writes only on "Write"; "Write" ends with (51, 1) twice. A new mode makes

@@ -1,6 +1,6 @@
 // The nanosecond driver panels (types 23, 29, 19, 31) and the SNS panel (type 36): their poll lists
 // and rows, then rows that run a script of reports and operator actions and check what is sent
-// and shown (see run_script() and check_script()).
+// and shown (see check_script() and run_script()).
 #include "test_panel_support.h"
 
 using namespace panel_test;
@@ -68,13 +68,8 @@ private slots:
     }
 
     void behaviour_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("checks");
-        const auto row = [](const char *name, int type, const QString &script,
-                            const QString &checks) {
-            QTest::newRow(name) << type << script << checks;
-        };
+        script_columns();
+        const auto row = script_row;
         // Set-points by Enter and Yes, after picking the rate range.
         row("current, truncated", 23, "type:dsb_curr=12.349 yes ret:dsb_curr", "sent=(24,1234)");
         row("temperature", 23, "type:dsb_temp=20.5 yes ret:dsb_temp", "sent=(18,205)");
@@ -265,12 +260,7 @@ private slots:
             "sent=(32,1200) (18,200) (19,12000000);laser_tab_button.text=Seed (12.00/2.50 V "
             "20.0/25.1 °C 12kHz/12000 Hz)");
     }
-    void behaviour() {
-        QFETCH(int, type);
-        QFETCH(QString, script);
-        QFETCH(QString, checks);
-        check_script(type, *boxes, script, checks, raw_rows);
-    }
+    void behaviour() { check_script(*boxes, raw_rows); }
 };
 
 QTEST_MAIN(test_panel_nanosecond)

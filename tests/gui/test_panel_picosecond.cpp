@@ -1,5 +1,5 @@
 // The picosecond panels (types 20, 26, 28, 35): each row runs a script of reports and operator
-// actions, then checks what is sent and shown (see run_script() and check_script()).
+// actions, then checks what is sent and shown (see check_script() and run_script()).
 #include "test_panel_support.h"
 
 using namespace panel_test;
@@ -27,13 +27,8 @@ class test_panel_picosecond : public boxed_test {
 
 private slots:
     void behaviour_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("checks");
-        const auto row = [](const char *name, int type, const QString &script,
-                            const QString &checks) {
-            QTest::newRow(name) << type << script << checks;
-        };
+        script_columns();
+        const auto row = script_row;
         // Poll cycles once every row is known, and the rows.
         row("20 cycle, silent tick 4", 20, "rows", "sent=" + ps_fixed + " (160,0);rows=" + ps_rows);
         row("26 cycle; a row reported as -1 is known", 26, "rows 209=-1",
@@ -132,12 +127,7 @@ private slots:
         row("alarm bits without a name", 35, "176=4608 ok click:pb_alarm",
             "box=Output power is close to MAX\n");
     }
-    void behaviour() {
-        QFETCH(int, type);
-        QFETCH(QString, script);
-        QFETCH(QString, checks);
-        check_script(type, *boxes, script, checks, raw_rows);
-    }
+    void behaviour() { check_script(*boxes, raw_rows); }
 };
 
 QTEST_MAIN(test_panel_picosecond)

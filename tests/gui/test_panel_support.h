@@ -257,10 +257,23 @@ inline QString script_state(panel_base &panel, const box_answerer &boxes, const 
                                                : w->property(qPrintable(property)).toString();
 }
 
-// A script row: a panel of `type` runs `script`, then each of `checks` (separated by ";") holds:
-// "sent=..." the ticks that follow, or "KEY=VALUE" for script_state(). Nothing is left queued.
-inline void check_script(int type, box_answerer &boxes, const QString &script,
-                         const QString &checks, const QMap<int, long> &raw) {
+// A script table: each row names a device `type`, a `script` for run_script() and the `checks`.
+inline void script_columns() {
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("checks");
+}
+inline void script_row(const char *name, int type, const QString &script, const QString &checks) {
+    QTest::newRow(name) << type << script << checks;
+}
+
+// Runs the current row of a script table: a panel of its type runs the script, then each of the
+// checks (separated by ";") holds: "sent=..." the ticks that follow, or "KEY=VALUE" for
+// script_state(). Nothing is left queued.
+inline void check_script(box_answerer &boxes, const QMap<int, long> &raw) {
+    QFETCH(int, type);
+    QFETCH(QString, script);
+    QFETCH(QString, checks);
     auto panel = make_panel(type);
     run_script(*panel, boxes, script, raw);
     for (const QString &check : checks.split(';', Qt::SkipEmptyParts)) {
