@@ -300,28 +300,22 @@ private slots:
         QTest::addColumn<QStringList>("args");
         QTest::addColumn<QString>("message");  // part of the error, "" when parsing passes
         QTest::addColumn<QString>("populate_message");
-        QTest::newRow("type not modelled") << QStringList{"--device", "1:24"} << "not modelled"
-                                           << "";
-        QTest::newRow("id twice") << QStringList{"--device", "1:14", "--device", "1:20"} << "twice"
-                                  << "";
-        QTest::newRow("id too large") << QStringList{"--device", "0x800:14"} << "0x7FF"
-                                      << "";
-        QTest::newRow("not a number") << QStringList{"--silent", "two"} << "ID[:AFTER_MS"
-                                      << "";
-        QTest::newRow("negative time") << QStringList{"--silent", "1:-5"} << "ID[:AFTER_MS"
-                                       << "";
-        QTest::newRow("unknown option") << QStringList{"--bogus"} << "bogus"
-                                        << "";
-        QTest::newRow("stray argument") << QStringList{"14"} << "unexpected"
-                                        << "";
-        QTest::newRow("alarm without bits") << QStringList{"--alarm", "1:0"} << "BITS"
-                                            << "";
-        QTest::newRow("fault on an empty address")
-            << QStringList{"--device", "1:14", "--garbage", "2"} << ""
-            << "no device at CAN ID 2";
-        QTest::newRow("alarm on a type without alarm word")
-            << QStringList{"--device", "1:20", "--alarm", "1:1"} << ""
-            << "alarm word";
+        const auto row = [](const char *name, const QStringList &args, const char *message,
+                            const char *populate_message = "") {
+            QTest::newRow(name) << args << QString(message) << QString(populate_message);
+        };
+        row("type not modelled", {"--device", "1:24"}, "not modelled");
+        row("id twice", {"--device", "1:14", "--device", "1:20"}, "twice");
+        row("id too large", {"--device", "0x800:14"}, "0x7FF");
+        row("not a number", {"--silent", "two"}, "ID[:AFTER_MS");
+        row("negative time", {"--silent", "1:-5"}, "ID[:AFTER_MS");
+        row("unknown option", {"--bogus"}, "bogus");
+        row("stray argument", {"14"}, "unexpected");
+        row("alarm without bits", {"--alarm", "1:0"}, "BITS");
+        row("fault on an empty address", {"--device", "1:14", "--garbage", "2"}, "",
+            "no device at CAN ID 2");
+        row("alarm on a type without alarm word", {"--device", "1:20", "--alarm", "1:1"}, "",
+            "alarm word");
     }
     void command_line_errors() {
         QFETCH(QStringList, args);
