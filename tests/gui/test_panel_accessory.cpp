@@ -46,7 +46,8 @@ private slots:
         row("picker Burst", 5, "mode=3", "sent=(19,1) (20,1) (16,3)");
         row("picker 50 %", 5, "type:dsb_ampl=50 yes ret:dsb_ampl", "sent=(17,4096)");
         row("picker 100 %", 5, "type:dsb_ampl=100 yes ret:dsb_ampl", "sent=(17,0)");
-        row("picker 33.3 % truncated", 5, "type:dsb_ampl=33.3 yes ret:dsb_ampl", "sent=(17,5464)");
+        row("picker 0.7 % truncated, not rounded", 5, "type:dsb_ampl=0.7 yes ret:dsb_ampl",
+            "sent=(17,8134)");
         row("picker divider", 5, "type:dsb_divider=7 yes ret:dsb_divider", "sent=(18,7)");
         row("picker reported 0 is Open", 5, "rows 144=0", "l_mode.text=Open;mode.currentText=Open");
         row("picker Divide: no burst sizes", 5, "144=2 ret:dsb_gate ret:dsb_cut",

@@ -1,7 +1,6 @@
 // The CW driver panels: `cw_panel` for device types 14, 34 and 38 and the precision panel
 // `vtr_cw_1800_zif` for type 15. Each row runs a script of reports and operator actions, then
 // checks what is sent and shown (see check_script() and run_script()).
-#include "config_dialog.h"
 #include "test_panel_support.h"
 
 #include <QDoubleSpinBox>
@@ -177,8 +176,7 @@ private slots:
         QFETCH(int, steps);
         QFETCH(QString, sent);
         auto panel = make_panel(14);
-        report_parameters(*panel,
-                          [&panel](int i) { return cw_raw.value(panel->parameters()[i].code); });
+        run_script(*panel, *boxes, "rows", cw_raw);
         panel->on_toolButton_clicked();
         auto *spin = panel->configuration_dialog()->findChild<QDoubleSpinBox *>(row);
         QVERIFY(spin);
