@@ -61,7 +61,8 @@ int descriptors_open_on(const QString &path) {
 class test_serial_connector : public QObject {
     Q_OBJECT
 
-    // A connector opened on a fresh pseudo-terminal, with the adapter start bytes consumed.
+    // A connector opened on a fresh pseudo-terminal (named as its port), with the adapter start
+    // bytes consumed.
     struct open_link {
         pty_pair pty;
         serial_connector link;
@@ -73,7 +74,7 @@ class test_serial_connector : public QObject {
             const QString path = pty.slave_path();
             in_link_thread(link, [this, path] { link.sl_init_connection(path); });
             const int before = connected.count();
-            return connected.wait_for(before + 1) &&
+            return connected.wait_for(before + 1) && link.port_name() == path &&
                    pty.read_exactly(adapter_start.size()) == adapter_start;
         }
         QStringList received() const {
@@ -86,17 +87,6 @@ class test_serial_connector : public QObject {
     };
 
 private slots:
-    void open_sends_three_channel_start_pairs() {
-        open_link l;
-        QVERIFY(l.pty.ok());
-        const QString path = l.pty.slave_path();
-        in_link_thread(l.link, [&l, path] { l.link.sl_init_connection(path); });
-        QVERIFY(l.connected.wait_for(1));
-        QCOMPARE(l.pty.read_exactly(adapter_start.size()), adapter_start);
-        QCOMPARE(l.link.port_name(), path);
-        QCOMPARE(l.disconnected.count(), 0);
-    }
-
     void open_failure_reports_disconnected() {
         open_link l;
         in_link_thread(l.link, [&l] { l.link.sl_init_connection("/dev/lumivox-no-such-port"); });
@@ -105,22 +95,13 @@ private slots:
         QCOMPARE(l.link.port_name(), QStringLiteral("/dev/lumivox-no-such-port"));
     }
 
-    void frame_leaves_as_29_bytes() {
-        open_link l;
-        QVERIFY(l.open());
-        const QString frame = frame_codec::compose(5, 0x12, frame_codec::to_wire(-5));
-        in_link_thread(l.link, [&l, frame] { l.link.sl_send_string(frame); });
-        const QByteArray wire = l.pty.read_exactly(29);
-        QCOMPARE(wire, QByteArray("t005812220000fffffffb2c8f\r\n\r\n"));
-    }
-
     void lines_are_cut_at_carriage_returns_data() {
         QTest::addColumn<QList<QByteArray>>("chunks");
         QTest::addColumn<QStringList>("expected");
         const QByteArray a = "t0058910500000000000a1111";
         const QByteArray b = "t00689106000000000014222";
-        QTest::newRow("two frames in one read") << QList<QByteArray>{a + "\r" + b + "\r"}
-                                                << QStringList{a, b};
+        QTest::newRow("two frames in one read")
+            << QList<QByteArray>{a + "\r" + b + "\r"} << QStringList{a, b};
         QTest::newRow("line split across reads")
             << QList<QByteArray>{a.left(9), a.mid(9) + "\r"} << QStringList{a};
         QTest::newRow("line feed of the next read starts the next piece")
@@ -130,8 +111,8 @@ private slots:
         QTest::newRow("partial frame after the last carriage return is discarded")
             << QList<QByteArray>{a + "\r" + b.left(10), b.mid(10) + "\r"}
             << QStringList{a, b.mid(10)};
-        QTest::newRow("empty pieces skipped") << QList<QByteArray>{"\r\r" + a + "\r\r"}
-                                              << QStringList{a};
+        QTest::newRow("empty pieces skipped")
+            << QList<QByteArray>{"\r\r" + a + "\r\r"} << QStringList{a};
     }
     void lines_are_cut_at_carriage_returns() {
         QFETCH(QList<QByteArray>, chunks);
@@ -148,29 +129,26 @@ private slots:
         QTRY_COMPARE(l.received(), expected);
     }
 
-    void flood_without_carriage_return_is_dropped() {
+    // Text before a carriage return is kept up to the guard; a flood beyond it is dropped.
+    void text_before_a_carriage_return_data() {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("kept");
+        QTest::newRow("below the guard") << 4000 << true;
+        QTest::newRow("flood") << int(serial_connector::max_buffered_bytes) + 1000 << false;
+    }
+    void text_before_a_carriage_return() {
+        QFETCH(int, size);
+        QFETCH(bool, kept);
         open_link l;
         QVERIFY(l.open());
-        const QByteArray flood(serial_connector::max_buffered_bytes + 1000, 'x');
-        const qint64 before = l.link.bytes_received();
-        QVERIFY(l.pty.write(flood));
-        QTRY_COMPARE(l.link.bytes_received(), before + flood.size());
+        const QByteArray text(size, 'x');
         const QByteArray line = "t0058910500000000000a1111";
+        const qint64 before = l.link.bytes_received();
+        QVERIFY(l.pty.write(text));
+        QTRY_COMPARE(l.link.bytes_received(), before + text.size());
         QVERIFY(l.pty.write(line + "\r"));
         QTRY_COMPARE(l.lines.count(), 1);
-        QCOMPARE(l.received(), QStringList{line});
-    }
-
-    void text_below_the_guard_is_kept() {
-        open_link l;
-        QVERIFY(l.open());
-        const QByteArray head(4000, 'x');
-        const qint64 before = l.link.bytes_received();
-        QVERIFY(l.pty.write(head));
-        QTRY_COMPARE(l.link.bytes_received(), before + head.size());
-        QVERIFY(l.pty.write("tail\r"));
-        QTRY_COMPARE(l.lines.count(), 1);
-        QCOMPARE(l.received(), QStringList{QString::fromLatin1(head + "tail")});
+        QCOMPARE(l.received(), QStringList{QString::fromLatin1(kept ? text + line : line)});
     }
 
     void frames_are_logged_only_when_switched_on_data() {
