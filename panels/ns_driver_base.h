@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel_base.h"
+#include "pulse_form.h"
 
 #include <QStringList>
 
@@ -68,39 +69,17 @@ public:
 
     // The widgets of the form, by role; the drive widgets are `dsb_curr`, `i_current`, ... or
     // `dsb_volt`, `i_volt`, ...
-    struct widgets {
-        QWidget *body = nullptr;
-        QPushButton *pb_on_off = nullptr;
-        QPushButton *start_stop_button_alt = nullptr;
-        QComboBox *cb_mode = nullptr;
-        QComboBox *cb_freq_range = nullptr;
-        QCheckBox *chb_tec = nullptr;
+    struct widgets : pulse_form {
         QDoubleSpinBox *dsb_drive = nullptr;
-        QDoubleSpinBox *dsb_temp = nullptr;
-        QDoubleSpinBox *dsb_freq = nullptr;
         QDoubleSpinBox *dsb_dura = nullptr;
-        QDoubleSpinBox *dsb_gated_count = nullptr;
-        QDoubleSpinBox *dsb_cutted_count = nullptr;
         QProgressBar *i_drive = nullptr;
-        QProgressBar *i_temp = nullptr;
-        QProgressBar *i_freq = nullptr;
         QProgressBar *i_dura = nullptr;
         QLabel *l_drive_min = nullptr;
         QLabel *l_drive_max = nullptr;
-        QLabel *l_temp_min = nullptr;
-        QLabel *l_temp_max = nullptr;
-        QLabel *l_freq_min = nullptr;
-        QLabel *l_freq_max = nullptr;
         QLabel *l_dura_min = nullptr;
         QLabel *l_dura_max = nullptr;
-        QLabel *l_emission_state = nullptr;
         QLabel *l_drive = nullptr;
-        QLabel *l_temp = nullptr;
-        QLabel *l_freq = nullptr;
         QLabel *l_dura = nullptr;
-        QLabel *l_gated_count = nullptr;
-        QLabel *l_cutted_count = nullptr;
-        QLabel *l_mode = nullptr;
     };
 
     // The DC bias of the members that have one: set-point, bar, limit labels (whose numbers span
@@ -119,33 +98,13 @@ public:
     template <class Form>
     static widgets widgets_of(Form *ui) {
         widgets w;
-        w.body = ui->device_widget;
-        w.pb_on_off = ui->pb_on_off;
-        w.start_stop_button_alt = ui->start_stop_button_alt;
-        w.cb_mode = ui->cb_mode;
-        w.cb_freq_range = ui->cb_freq_range;
-        w.chb_tec = ui->chb_tec;
-        w.dsb_temp = ui->dsb_temp;
-        w.dsb_freq = ui->dsb_freq;
+        w.take(ui);
+        w.take_burst(ui);
         w.dsb_dura = ui->dsb_dura;
-        w.dsb_gated_count = ui->dsb_gated_count;
-        w.dsb_cutted_count = ui->dsb_cutted_count;
-        w.i_temp = ui->i_temp;
-        w.i_freq = ui->i_freq;
         w.i_dura = ui->i_dura;
-        w.l_temp_min = ui->l_temp_min;
-        w.l_temp_max = ui->l_temp_max;
-        w.l_freq_min = ui->l_freq_min;
-        w.l_freq_max = ui->l_freq_max;
         w.l_dura_min = ui->l_dura_min;
         w.l_dura_max = ui->l_dura_max;
-        w.l_emission_state = ui->l_emission_state;
-        w.l_temp = ui->l_temp;
-        w.l_freq = ui->l_freq;
         w.l_dura = ui->l_dura;
-        w.l_gated_count = ui->l_gated_count;
-        w.l_cutted_count = ui->l_cutted_count;
-        w.l_mode = ui->l_mode;
         return w;
     }
     // The widgets of a current-driven member's form.

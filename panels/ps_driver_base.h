@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel_base.h"
+#include "pulse_form.h"
 
 #include <QStringList>
 #include <QVector>
@@ -56,35 +57,13 @@ public:
         int cut;
     };
 
-    // The widgets of the form, by role; the burst count widgets are null on members without them.
-    struct widgets {
-        QWidget *body = nullptr;
-        QPushButton *pb_on_off = nullptr;
-        QPushButton *start_stop_button_alt = nullptr;
+    // The widgets of the form, by role: the shared pulse form and the drive voltage.
+    struct widgets : pulse_form {
         QDoubleSpinBox *dsb_volt = nullptr;
-        QDoubleSpinBox *dsb_temp = nullptr;
-        QDoubleSpinBox *dsb_freq = nullptr;
-        QComboBox *cb_freq_range = nullptr;
-        QComboBox *cb_mode = nullptr;
-        QCheckBox *chb_tec = nullptr;
         QProgressBar *i_voltage = nullptr;
-        QProgressBar *i_temp = nullptr;
-        QProgressBar *i_freq = nullptr;
         QLabel *l_volt_min = nullptr;
         QLabel *l_volt_max = nullptr;
-        QLabel *l_temp_min = nullptr;
-        QLabel *l_temp_max = nullptr;
-        QLabel *l_freq_min = nullptr;
-        QLabel *l_freq_max = nullptr;
-        QLabel *l_emission_state = nullptr;
         QLabel *l_volt = nullptr;
-        QLabel *l_temp = nullptr;
-        QLabel *l_freq = nullptr;
-        QLabel *l_mode = nullptr;
-        QDoubleSpinBox *dsb_gated_count = nullptr;
-        QDoubleSpinBox *dsb_cutted_count = nullptr;
-        QLabel *l_gated_count = nullptr;
-        QLabel *l_cutted_count = nullptr;
     };
 
     // How a member behaves inside the shared parts.
@@ -104,39 +83,19 @@ public:
     template <class Form>
     static widgets widgets_of(Form *ui) {
         widgets form;
-        form.body = ui->device_widget;
-        form.pb_on_off = ui->pb_on_off;
-        form.start_stop_button_alt = ui->start_stop_button_alt;
+        form.take(ui);
         form.dsb_volt = ui->dsb_volt;
-        form.dsb_temp = ui->dsb_temp;
-        form.dsb_freq = ui->dsb_freq;
-        form.cb_freq_range = ui->cb_freq_range;
-        form.cb_mode = ui->cb_mode;
-        form.chb_tec = ui->chb_tec;
         form.i_voltage = ui->i_voltage;
-        form.i_temp = ui->i_temp;
-        form.i_freq = ui->i_freq;
         form.l_volt_min = ui->l_volt_min;
         form.l_volt_max = ui->l_volt_max;
-        form.l_temp_min = ui->l_temp_min;
-        form.l_temp_max = ui->l_temp_max;
-        form.l_freq_min = ui->l_freq_min;
-        form.l_freq_max = ui->l_freq_max;
-        form.l_emission_state = ui->l_emission_state;
         form.l_volt = ui->l_volt;
-        form.l_temp = ui->l_temp;
-        form.l_freq = ui->l_freq;
-        form.l_mode = ui->l_mode;
         return form;
     }
     // The same with the burst count widgets of the drivers that have them.
     template <class Form>
     static widgets burst_widgets_of(Form *ui) {
         widgets form = widgets_of(ui);
-        form.dsb_gated_count = ui->dsb_gated_count;
-        form.dsb_cutted_count = ui->dsb_cutted_count;
-        form.l_gated_count = ui->l_gated_count;
-        form.l_cutted_count = ui->l_cutted_count;
+        form.take_burst(ui);
         return form;
     }
 

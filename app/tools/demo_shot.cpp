@@ -1,7 +1,7 @@
 // The demo's look without a display: runs the program in the working directory as `lumivox` does
 // (configuration file, automatic connection, polling), waits until every configured device has
-// told its type and the panels have had time to fill, saves a picture of the main window and
-// closes it as the user would (the configuration file is saved).
+// told its type and the panels have had time to fill, saves a picture of the main window (as tall
+// as its whole panel list) and closes it as the user would (the configuration file is saved).
 //
 // Given a second picture, the trend window follows the devices from the start; after the first
 // picture every panel is operated as an operator would (set-points raised and confirmed, the TEC
@@ -24,6 +24,7 @@
 #include <QApplication>
 #include <QDoubleSpinBox>
 #include <QElapsedTimer>
+#include <QScrollArea>
 #include <QTest>
 #include <QTranslator>
 
@@ -32,10 +33,14 @@
 
 namespace {
 
-bool every_type_known(const main_window &window) {
+// Every device has told its type and every panel has its configuration values, so the panels
+// have loaded their set-points.
+bool every_panel_filled(const main_window &window) {
     const QList<device *> &devices = window.devices();
-    return std::all_of(devices.begin(), devices.end(),
-                       [](const device *dev) { return dev->type_id() >= 0; });
+    return std::all_of(devices.begin(), devices.end(), [](const device *dev) {
+        const auto *panel = qobject_cast<const panel_base *>(dev->current_panel());
+        return dev->type_id() >= 0 && (!panel || panel->all_parameters_known());
+    });
 }
 
 // What an operator does to make the readings move: the main set-point to 40 % of its range, a
@@ -71,6 +76,20 @@ void operate(const main_window &window) {
     set_message_answerer({});
 }
 
+// Makes the window tall enough for the whole panel list, so the picture shows every panel rather
+// than the first few above the scroll area's fold.
+void show_every_panel(main_window &window) {
+    auto *area = window.findChild<QScrollArea *>(QStringLiteral("devices_scroll"));
+    if (!area || !area->widget()) {
+        return;
+    }
+    const int hidden = area->widget()->sizeHint().height() - area->viewport()->height();
+    if (hidden > 0) {
+        window.resize(window.width(), window.height() + hidden);
+        QTest::qWait(300);  // a few poll cycles repaint what the resize uncovered
+    }
+}
+
 }  // namespace
 
 int main(int argc, char *argv[]) {
@@ -88,8 +107,8 @@ int main(int argc, char *argv[]) {
     const QString recording = args.value(4);
     // Long enough for the drive to ramp and the temperatures to settle on the new set-points.
     constexpr int operate_ms = 15000;
-    // After the last type is known, the panels' first sync and a few poll cycles fill the values.
-    constexpr int fill_ms = 4000;
+    // After the last panel is filled, a few poll cycles show the loaded set-points.
+    constexpr int fill_ms = 1500;
 
     QTranslator translator;
     prepare_program(app, translator);
@@ -105,14 +124,15 @@ int main(int argc, char *argv[]) {
 
     QElapsedTimer clock;
     clock.start();
-    while (!every_type_known(window) && clock.elapsed() < limit_ms - fill_ms) {
+    while (!every_panel_filled(window) && clock.elapsed() < limit_ms - fill_ms) {
         QTest::qWait(100);
     }
-    if (!every_type_known(window)) {
-        std::fputs("lumivox_demo_shot: not every device answered; the picture shows what did\n",
+    if (!every_panel_filled(window)) {
+        std::fputs("lumivox_demo_shot: not every panel filled; the picture shows what did\n",
                    stderr);
     }
     QTest::qWait(fill_ms);
+    show_every_panel(window);
     bool saved = window.grab().save(picture);
     if (trends) {
         operate(window);

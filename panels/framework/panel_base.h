@@ -61,6 +61,8 @@ public:
     // The description, read by the device set-up and by tests.
     const poll_plan &plan() const { return plan_; }
     const parameter_list &parameters() const { return parameters_; }
+    // Every configuration value has been reported (the first sync can run).
+    bool all_parameters_known() const;
     // Removes the parameter at `position` (device types that lack one).
     void remove_parameter(int position);
     // Commands that "Write" appends after the writes and read requests.
@@ -191,7 +193,6 @@ protected:
     // Value of the parameter with `code`, or the unknown mark when there is none.
     double parameter_by_code(int code) const;
     bool is_known(double value) const { return !plan_.is_unknown(value); }
-    bool all_parameters_known() const;
     void mark_parameters_unknown();
     int alarm_word() const { return alarm_word_; }
     int tec_state() const { return tec_state_; }

@@ -3454,7 +3454,17 @@ SOLUTION: increase the input voltage</translation>
         <translation>Device parameters</translation>
     </message>
     <message>
-        <location line="+129"/>
+        <location line="+85"/>
+        <source>Alarm!!!</source>
+        <translation>Alarm!!!</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <location line="+61"/>
         <location filename="../../panels/vtr_sns_panel.cpp" line="+31"/>
         <source>Temperature</source>
         <translation>Temperature</translation>
@@ -3519,7 +3529,7 @@ SOLUTION: increase the input voltage</translation>
     <message>
         <location line="+7"/>
         <location filename="../../panels/vtr_sns_panel.cpp" line="+4"/>
-        <location line="+65"/>
+        <location line="+71"/>
         <source>OFF</source>
         <translation>OFF</translation>
     </message>
@@ -3569,7 +3579,7 @@ SOLUTION: increase the input voltage</translation>
         <translation>Width SNS:</translation>
     </message>
     <message>
-        <location filename="../../panels/vtr_sns_panel.cpp" line="-81"/>
+        <location filename="../../panels/vtr_sns_panel.cpp" line="-87"/>
         <source>°C</source>
         <translation>°C</translation>
     </message>
@@ -3617,7 +3627,7 @@ SOLUTION: increase the input voltage</translation>
         <translation>Monitor</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+20"/>
         <source>CAN ID</source>
         <translation>CAN ID</translation>
     </message>
@@ -3657,7 +3667,7 @@ SOLUTION: increase the input voltage</translation>
         <translation>Width SNS, t</translation>
     </message>
     <message>
-        <location line="+41"/>
+        <location line="+45"/>
         <source>ON</source>
         <translation>ON</translation>
     </message>

@@ -5,7 +5,3 @@ foreach(area framework cw accessory picosecond nanosecond high_power)
                      LIBS lumivox_panels LABELS gui panels)
   endif()
 endforeach()
-
-# Not a test: renders every panel to PNG files for a look by eye (see the file's header).
-add_executable(render_panels render_panels.cpp)
-target_link_libraries(render_panels PRIVATE lumivox_panels)

@@ -154,17 +154,16 @@ private slots:
         QTest::addColumn<int>("clicks");
         QTest::addColumn<QString>("wire");
         QTest::addColumn<QString>("start_text");
-        QTest::newRow("0.4 Hz") << "pushButton" << 0.4 << 1 << "FREQ_TTL 0\r\r\n"
-                                << "START";
-        QTest::newRow("no separators") << "pushButton" << 2.5e6 << 1 << "FREQ_TTL 2500000\r\r\n"
-                                       << "START";
-        QTest::newRow("width rounds") << "pushButton_2" << 12345.6 << 1 << "PW_TTL 12346\r\r\n"
-                                      << "START";
-        QTest::newRow("first click stops") << "pushButton_3" << 0.0 << 1 << "Stop_TTL\r\r\n"
-                                           << "START";
-        QTest::newRow("second click starts")
-            << "pushButton_3" << 0.0 << 2 << "Stop_TTL\r\r\nStart_TTL\r\r\n"
-            << "STOP";
+        const auto row = [](const char *name, const char *button, double value, int clicks,
+                            const char *wire, const char *start_text) {
+            QTest::newRow(name) << QString(button) << value << clicks << QString(wire)
+                                << QString(start_text);
+        };
+        row("0.4 Hz", "pushButton", 0.4, 1, "FREQ_TTL 0\r\r\n", "START");
+        row("no separators", "pushButton", 2.5e6, 1, "FREQ_TTL 2500000\r\r\n", "START");
+        row("width rounds", "pushButton_2", 12345.6, 1, "PW_TTL 12346\r\r\n", "START");
+        row("first click stops", "pushButton_3", 0.0, 1, "Stop_TTL\r\r\n", "START");
+        row("second click starts", "pushButton_3", 0.0, 2, "Stop_TTL\r\r\nStart_TTL\r\r\n", "STOP");
     }
     void ttl_commands_on_the_wire() {
         QFETCH(QString, button);

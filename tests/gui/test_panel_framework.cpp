@@ -1,8 +1,9 @@
 // What the panel framework promises every panel, checked on every registered panel type, plus the
-// framework's pure parts (scaling, the poll step) on the shapes of poll plan the panels use.
+// framework's scaling.
 #include "config_dialog.h"
 #include "scaling.h"
 #include "test_panel_support.h"
+#include "warning_log.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -71,23 +72,8 @@ private:
 
 }  // namespace
 
-// A form whose by-name slot names a widget that does not exist.
-class misspelled_form : public QWidget {
+class test_panel_framework : public boxed_test {
     Q_OBJECT
-public:
-    misspelled_form() {
-        auto *button = new QPushButton(this);
-        button->setObjectName(QStringLiteral("pb_alarm"));
-        QMetaObject::connectSlotsByName(this);
-    }
-public slots:
-    void on_pb_alarn_clicked() {}
-};
-
-class test_panel_framework : public QObject {
-    Q_OBJECT
-
-    std::unique_ptr<box_answerer> boxes;
 
     void add_panel_types() {
         QTest::addColumn<int>("type");
@@ -97,19 +83,6 @@ class test_panel_framework : public QObject {
     }
 
 private slots:
-    void init() { boxes = std::make_unique<box_answerer>(); }
-    void cleanup() {
-        boxes->verify_all_answered();
-        boxes.reset();
-    }
-
-    void registry_has_the_cw_panels() {
-        const QList<int> types = panel_types();
-        for (int type : {14, 15, 34, 38}) {
-            QVERIFY2(types.contains(type), qPrintable(QString::number(type)));
-        }
-    }
-
     // --- Construction ---------------------------------------------------------------------------
 
     void building_prints_no_warning_data() { add_panel_types(); }
@@ -118,24 +91,15 @@ private slots:
         // Placed in a window as the program places it (a top-level window of its own would make
         // the offscreen platform itself warn).
         QWidget host;
-        warning_catcher catcher;
+        warning_log warnings;
         {
             auto panel = make_panel(type, QStringLiteral("Seed"), &host);
             QVERIFY(panel);
             panel->on_laser_tab_button_clicked();
             panel->on_laser_tab_button_clicked();
         }
-        QVERIFY2(catcher.warnings.isEmpty(), qPrintable(catcher.warnings.join('\n')));
-    }
-
-    // The catcher sees what the form loader prints for a misspelled by-name slot.
-    void warning_catcher_sees_a_misspelled_slot() {
-        warning_catcher catcher;
-        QTest::ignoreMessage(QtWarningMsg,
-                             "QMetaObject::connectSlotsByName: No matching signal "
-                             "for on_pb_alarn_clicked()");
-        misspelled_form form;
-        QCOMPARE(catcher.warnings.size(), 1);
+        const QString differ = warnings.differences({});
+        QVERIFY2(differ.isEmpty(), qPrintable(differ));
     }
 
     // --- Poll cycle
@@ -194,6 +158,7 @@ private slots:
         QCOMPARE(boxes->shown.size(), 2);
         QCOMPARE(boxes->shown.first().text, QStringLiteral("Send command on Seed laser?"));
         QCOMPARE(boxes->shown.first().buttons, QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(boxes->shown.first().icon, QMessageBox::Information);
 
         const QVector<panel_command> sent = run_ticks(*panel, 5);
         QVERIFY2(sent[0].code >= 0 && sent[0].code < 128, qPrintable(text_of(sent)));
@@ -232,18 +197,6 @@ private slots:
 
     // --- Wheel
     // ------------------------------------------------------------------------------------
-
-    // Without the panel's filter, the same wheel turn moves a spin box and a combo box.
-    void wheel_moves_plain_widgets() {
-        QDoubleSpinBox spin;
-        spin.setRange(0, 10);
-        turn_wheel(&spin, 1);
-        QCOMPARE(spin.value(), 1.0);
-        QComboBox combo;
-        combo.addItems({"a", "b"});
-        turn_wheel(&combo, -1);
-        QCOMPARE(combo.currentIndex(), 1);
-    }
 
     void wheel_changes_nothing_data() { add_panel_types(); }
     void wheel_changes_nothing() {
@@ -487,63 +440,6 @@ private slots:
         QFETCH(int, share);
         const std::optional<int> result = scaling::percent(value, low, high);
         QCOMPARE(result.value_or(-1000), share);
-    }
-
-    // Cycles of the plan shapes the panels use, all parameters unknown except where stated.
-    void poll_step_shapes_data() {
-        QTest::addColumn<QVector<int>>("codes");
-        QTest::addColumn<int>("unknown_from");
-        QTest::addColumn<double>("mark");
-        QTest::addColumn<QVector<double>>("values");  // one per parameter (codes 81, 37, 38)
-        QTest::addColumn<QString>("cycle");           // two cycles
-        const int s = poll_plan::silent;
-        const double u = -1.0;
-        QTest::newRow("plain list, two unknown")
-            << QVector<int>{144, 145} << -1 << -1.0 << QVector<double>{u, 5, u}
-            << "144 145 209 166 144 145 209 166";
-        QTest::newRow("silent position") << QVector<int>{144, s, 148} << -1 << -1.0
-                                         << QVector<double>{1, 2, 3} << "144 - 148 144 - 148";
-        QTest::newRow("gap before unknown rows (heater)")
-            << QVector<int>{161, 146} << 3 << -1.0 << QVector<double>{u, 2, 3}
-            << "161 146 - 209 161 146 - 209";
-        QTest::newRow("list shorter than cycle, all known")
-            << QVector<int>{144, 145} << 3 << -1.0 << QVector<double>{1, 2, 3}
-            << "144 145 - 144 145 -";
-        QTest::newRow("other unknown mark: -1 counts as known")
-            << QVector<int>{160} << -1 << 4294967295.0 << QVector<double>{-1, 4294967295.0, 7}
-            << "160 165 160 165";
-    }
-    void poll_step_shapes() {
-        QFETCH(QVector<int>, codes);
-        QFETCH(int, unknown_from);
-        QFETCH(double, mark);
-        QFETCH(QVector<double>, values);
-        QFETCH(QString, cycle);
-        poll_plan plan;
-        plan.read_codes = codes;
-        plan.unknown_rows_from = unknown_from;
-        plan.unknown_mark = mark;
-        parameter_list parameters{{81, "CAN ID", 0, values[0], 1},
-                                  {37, "Max", 1, values[1], 1},
-                                  {38, "Min", 1, values[2], 1}};
-        int index = 0;
-        QStringList sent;
-        const int ticks = cycle.split(' ').size();
-        for (int i = 0; i < ticks; ++i) {
-            const std::optional<int> code = poll_step(plan, parameters, index);
-            sent.append(code ? QString::number(*code) : QStringLiteral("-"));
-        }
-        QCOMPARE(sent.join(' '), cycle);
-    }
-
-    void message_route_is_replaceable() {
-        QCOMPARE(boxes->shown.size(), 0);
-        boxes->expect(QStringLiteral("Question"), QMessageBox::Yes);
-        QVERIFY(confirm(nullptr, QStringLiteral("Question"), QStringLiteral("Go?")));
-        boxes->expect(QStringLiteral("Question"), QMessageBox::No);
-        QVERIFY(!confirm(nullptr, QStringLiteral("Question"), QStringLiteral("Go?")));
-        QCOMPARE(boxes->shown.size(), 2);
-        QCOMPARE(boxes->shown.first().icon, QMessageBox::Information);
     }
 };
 

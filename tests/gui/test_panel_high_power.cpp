@@ -1,209 +1,150 @@
 // The high-power driver panels: `zema_panel` (type 18), the compact `zema120_panel` (27) and
-// `zema240_panel` (25), driven through their public contract (reports in, ticks out).
-#include "config_dialog.h"
+// `zema240_panel` (25). Rows run a script of reports and operator actions, then check what is
+// sent and shown (see check_script() and run_script()).
 #include "test_panel_support.h"
 
-#include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QToolButton>
 
 using namespace panel_test;
 
 namespace {
 
-template <class W = QWidget>
-W *child(QObject &parent, const QString &name) {
-    W *widget = parent.findChild<W *>(name);
-    if (!widget) {
-        qFatal("no %s", qPrintable(name));
-    }
-    return widget;
+// The five rows as a device reports them: "Max current, A" at 100.1 A (0.01 A), the rest 1000.
+const QMap<int, long> raw_rows{{81, 1000}, {37, 10010}, {24, 1000}, {19, 1000}, {25, 1000}};
+
+// Current, temperature, input and output voltage, mode, output temperature, emission and alarm
+// word as a device reports them.
+QString reports(int current, int temperature, int mode, int output_temperature, int emission,
+                int alarm) {
+    return QStringLiteral("145=%1 146=%2 148=480 166=%3 164=%4 168=%5 144=%6 176=%7 rows")
+        .arg(current)
+        .arg(temperature)
+        .arg(output_temperature ? 312 : 100)
+        .arg(mode)
+        .arg(output_temperature)
+        .arg(emission)
+        .arg(alarm);
 }
 
-// The texts of those of `names` that the panel has, separated by "|".
-QString texts(QObject &panel, const QStringList &names) {
-    QStringList shown;
-    for (const QString &name : names) {
-        if (auto *label = panel.findChild<QLabel *>(name)) {
-            shown << label->text();
-        }
-    }
-    return shown.join('|');
-}
-
-// The five rows as a device reports them, "Max current, A" at `max_raw` (0.01 A), the rest 1000.
-void report_rows(panel_base &panel, long max_raw = 10000) {
-    report_parameters(panel, [max_raw](int row) { return row == 1 ? max_raw : 1000L; });
-}
+// Limits, the main set-point's range and its caption, the same for every type here.
+const QString limits =
+    "curr_max_label.text=100.1;curr_min_label.text=0.1;spin_label.text=Drive Current;"
+    "spin.minimum=0.1;spin.maximum=100.1;spin.suffix= A;";
 
 }  // namespace
 
-class test_panel_high_power : public QObject {
+class test_panel_high_power : public boxed_test {
     Q_OBJECT
 
-    std::unique_ptr<box_answerer> boxes;
-
 private slots:
-    void init() { boxes = std::make_unique<box_answerer>(); }
-    void cleanup() {
-        boxes->verify_all_answered();
-        boxes.reset();
+    void behaviour_data() {
+        script_columns();
+        const auto row = script_row;
+        // Models; poll cycles with every row known, the compact driver idles at 6; step sizes.
+        const QString in = "sent=(144,0) (145,0) (146,0) ";
+        row("18 cycle", 18, "rows",
+            "laser_name_label.text=ZEMA-1200;toolButton.enabled=true;spin.singleStep=0.01;" + in +
+                "(164,0) (176,0) (148,0) (166,0) (144,0)");
+        row("27 cycle", 27, "rows",
+            "laser_name_label.text=ZEMA-120 driver;" + in + "(176,0) (148,0) (166,0) - (144,0)");
+        row("25 cycle", 25, "rows",
+            "laser_name_label.text=ZEMA-240;" + in +
+                "(164,0) (176,0) (148,0) (166,0) (168,0) (144,0)");
+        row("step 0.1", 27, "step_size_combo=1", "spin.singleStep=0.1");
+        row("step 1", 18, "step_size_combo=2", "spin.singleStep=1");
+        // Enter and Yes after typing: the tick after, and the collapsed header.
+        const QString header = "laser_tab_button.text=Seed (";
+        const QString none = "n/a/12.34 A 25.1 °C)";
+        row("18 drive", 18, "145=1234 146=251 type:spin=512.37 yes ret:spin click:laser_tab_button",
+            "sent=(17,51237);" + header + "512.4/12.34 A 25.1 °C)");
+        row("27 drive", 27, "145=1234 146=251 type:spin=0.29 yes ret:spin click:laser_tab_button",
+            "sent=(17,29);" + header + "0.3/12.34 A 25.1 °C)");
+        row("25 drive in mA", 25,
+            "145=12340 146=251 type:spin=1.234 yes ret:spin click:laser_tab_button",
+            "sent=(17,1234);" + header + "1.2/12.34 A 25.1 °C)");
+        row("25 temperature truncated", 25,
+            "145=12340 146=251 type:dsb_temp=20.55 yes ret:dsb_temp click:laser_tab_button",
+            "sent=(18,205);" + header + none);
+        row("18 mode asks only", 18, "145=1234 146=251 yes ret:mode click:laser_tab_button",
+            "sent=(144,0);" + header + none);
+        row("27 step asks only", 27,
+            "145=1234 146=251 yes ret:step_size_combo click:laser_tab_button",
+            "sent=(144,0);" + header + none);
+        // Value labels, limits, bars and the set points loaded once every row is known: the set
+        // point runs from 0.1 A to the maximum row, the current bar from 0 to the maximum less
+        // 0.1 A, the temperature bar to 35 °C; power = U out × I. The alarm widgets show while the
+        // word is non-zero.
+        row("18 display", 18, reports(5000, 175, 3, 0, 1, 0x0101) + " ok click:pb_alarm",
+            "power_state_label.text=ON;current_ld_label.text=50.00 A;temp_label.text=17.5 °C;"
+            "l_input_volt.text=48.0 V;l_output_volt.text=10.0 V;power_label.text=500.0 W;"
+            "mode_label.text=Ext. TTL+ Analog;" +
+                limits +
+                "indicator.value=50;tem_indicator.value=50;spin.value=50;mode.currentIndex=3;"
+                "l_alarm.hidden=false;pb_alarm.hidden=false;pb_alarm_clear.hidden=false;"
+                "box=flag_Rebooted\nOutput voltage is higher than 80% of input voltage, "
+                "\nSOLUTION: increase the input voltage\n");
+        row("25 display, mA, bar truncated", 25, reports(50000, 349, 0, 291, 0, 0),
+            "power_state_label.text=OFF;current_ld_label.text=50.00 A;temp_label.text=34.9 °C;"
+            "l_input_volt.text=48.0 V;l_output_volt.text=31.2 V;power_label.text=1560.0 W;"
+            "mode_label.text=Const.Current;l_temp_out.text=29.1 °C;" +
+                limits +
+                "indicator.value=50;tem_indicator.value=99;spin.value=50;mode.currentIndex=0;"
+                "dsb_temp.value=34.9;l_alarm.hidden=true;pb_alarm.hidden=true;"
+                "pb_alarm_clear.hidden=true");
+        row("27 display below the scale, bit 12 unnamed", 27,
+            reports(1201, -15, 0, 0, 1, 0x1200) + " ok click:pb_alarm",
+            "power_state_label.text=ON;current_ld_label.text=12.01 A;temp_label.text=-1.5 °C;"
+            "power_label.text=120.1 W;" +
+                limits +
+                "indicator.value=12;tem_indicator.value=0;spin.value=12.01;mode.exists=false;"
+                "dsb_temp.exists=false;l_alarm.hidden=false;box=Output power is close to MAX\n");
+        row("18 set point loaded once", 18, reports(5000, 175, 3, 0, 1, 0) + " 145=7",
+            "spin.value=50");
+        row("18 Clear sends its pair twice", 18,
+            reports(5000, 175, 3, 0, 1, 1) + " click:pb_alarm_clear", "sent=(41,1) (41,1)");
     }
+    void behaviour() { check_script(*boxes, raw_rows); }
 
-    // Enter and Yes on a widget after typing: the first tick after, then the header once collapsed.
-    void enter_sends_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("entry");  // "widget typed => sent header"
-        const QString none = " => (144,0) S (n/a/12.34 A 25.1 °C)";
-        QTest::newRow("18") << 18 << "spin 512.37 => (17,51237) S (512.4/12.34 A 25.1 °C)";
-        QTest::newRow("27") << 27 << "spin 0.29 => (17,29) S (0.3/12.34 A 25.1 °C)";
-        QTest::newRow("25 mA") << 25 << "spin 1.234 => (17,1234) S (1.2/12.34 A 25.1 °C)";
-        QTest::newRow("25 truncated") << 25 << "dsb_temp 20.55 => (18,205) S (n/a/12.34 A 25.1 °C)";
-        QTest::newRow("18 mode asks only") << 18 << "mode" + none;
-        QTest::newRow("27 step asks only") << 27 << "step_size_combo" + none;
-    }
-    void enter_sends() {
-        QFETCH(int, type);
-        QFETCH(QString, entry);
-        const QStringList input = entry.section(" => ", 0, 0).split(' ');
-        auto panel = make_panel(type, "S");
-        panel->sl_parsed_data_received(145, type == 25 ? 12340 : 1234);
-        panel->sl_parsed_data_received(146, 251);
-        QWidget *target = child(*panel, input.first());
-        if (auto *spin = qobject_cast<QDoubleSpinBox *>(target)) {
-            spin->clear();
-            QTest::keyClicks(spin, input.last());
-        }
-        boxes->expect("Conformation", QMessageBox::Yes);
-        QTest::keyClick(target, Qt::Key_Return);
-        const QString sent = text_of(run_ticks(*panel, 1));
-        panel->on_laser_tab_button_clicked();
-        QCOMPARE(sent + ' ' + child<QPushButton>(*panel, "laser_tab_button")->text(),
-                 entry.section(" => ", 1));
-    }
-
-    // Value labels, limits, bars and the set points loaded once every row is known (then left
-    // alone): the set point runs from 0.1 A to the maximum row, the current bar from 0 to the
-    // maximum less 0.1 A, the temperature bar to 35 °C; power = U out × I. The alarm widgets show
-    // while the word is non-zero; "Clear" sends (41, 1) twice.
-    void display_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QVector<int>>("reports");  // 145, 146, 148, 166, 164, 168, 144, 176
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("alarm");
-        QTest::newRow("18")
-            << 18 << QVector<int>{5000, 175, 480, 100, 3, 0, 1, 0x0101}
-            << "ON|50.00 A|17.5 °C|48.0 V|10.0 V|500.0 W|Ext. TTL+ Analog|100.1|0.1|"
-               "Drive Current|0.1-100.1 A|bars 50 50|set 50 3 -1"
-            << "flag_Rebooted\nOutput voltage is higher than 80% of input voltage, "
-               "\nSOLUTION: increase the input voltage\n";
-        QTest::newRow("25 mA, bar truncated")
-            << 25 << QVector<int>{50000, 349, 240, 312, 0, 291, 0, 0}
-            << "OFF|50.00 A|34.9 °C|24.0 V|31.2 V|1560.0 W|Const.Current|29.1 °C|100.1|0.1|"
-               "Drive Current|0.1-100.1 A|bars 50 99|set 50 0 34.9"
-            << "";
-        QTest::newRow("27 below the scale, bit 12 unnamed")
-            << 27 << QVector<int>{1201, -15, 480, 100, 0, 0, 1, 0x1200}
-            << "ON|12.01 A|-1.5 °C|48.0 V|10.0 V|120.1 W|100.1|0.1|Drive Current|0.1-100.1 A|"
-               "bars 12 0|set 12.01 -1 -1"
-            << "Output power is close to MAX\n";
-    }
-    void display() {
-        QFETCH(int, type);
-        QFETCH(QVector<int>, reports);
-        QFETCH(QString, alarm);
-        auto panel = make_panel(type);
-        const int codes[] = {145, 146, 148, 166, 164, 168, 144, 176};
-        for (int i = 0; i < reports.size(); ++i) {
-            panel->sl_parsed_data_received(codes[i], reports[i]);
-        }
-        report_rows(*panel, 10010);
-        auto *spin = child<QDoubleSpinBox>(*panel, "spin");
-        const auto *mode = panel->findChild<QComboBox *>("mode");
-        const auto *temperature = panel->findChild<QDoubleSpinBox *>("dsb_temp");
-        QTEST(texts(*panel, {"power_state_label", "current_ld_label", "temp_label", "l_input_volt",
-                             "l_output_volt", "power_label", "mode_label", "l_temp_out",
-                             "curr_max_label", "curr_min_label", "spin_label"}) +
-                  QString("|%1-%2%3|bars %4 %5|set %6 %7 %8")
-                      .arg(spin->minimum())
-                      .arg(spin->maximum())
-                      .arg(spin->suffix())
-                      .arg(child<QProgressBar>(*panel, "indicator")->value())
-                      .arg(child<QProgressBar>(*panel, "tem_indicator")->value())
-                      .arg(spin->value())
-                      .arg(mode ? mode->currentIndex() : -1)
-                      .arg(temperature ? temperature->value() : -1),
-              "shown");
-        const double loaded = spin->value();
-        panel->sl_parsed_data_received(145, 7);  // after the first load: not loaded again
-        QCOMPARE(spin->value(), loaded);
-        for (const char *name : {"l_alarm", "pb_alarm", "pb_alarm_clear"}) {
-            QCOMPARE(child(*panel, name)->isHidden(), alarm.isEmpty());
-        }
-        if (!alarm.isEmpty()) {
-            boxes->expect("WARNING", QMessageBox::Ok);
-            child<QPushButton>(*panel, "pb_alarm")->click();
-            QCOMPARE(boxes->shown.last().text, alarm);
-            child<QPushButton>(*panel, "pb_alarm_clear")->click();
-            QCOMPARE(text_of(run_ticks(*panel, 2)), QString("(41,1) (41,1)"));
-        }
-    }
-
-    // Model; a poll cycle with every row known and the next cycle's first tick; step sizes. The
-    // dialog names the address 0xFA; a changed row is written at once except on the compact
+    // The dialog names the address 0xFA; a changed row is written at once except on the compact
     // driver, which writes only on "Write"; "Write" ends with (51, 1) twice. A new mode makes
     // every row unknown: they are read again before the dialog may open.
-    void described_and_configured_data() {
+    void configured_data() {
         QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("model");
-        QTest::addColumn<QString>("cycle");
-        const QString in = "(144,0) (145,0) (146,0) ";
-        QTest::newRow("18") << 18 << "ZEMA-1200" << in + "(164,0) (176,0) (148,0) (166,0) (144,0)";
-        QTest::newRow("27 idles at 6")
-            << 27 << "ZEMA-120 driver" << in + "(176,0) (148,0) (166,0) - (144,0)";
-        QTest::newRow("25") << 25 << "ZEMA-240"
-                            << in + "(164,0) (176,0) (148,0) (166,0) (168,0) (144,0)";
+        QTest::addColumn<int>("cycle");  // ticks of a poll cycle
+        QTest::newRow("18") << 18 << 7;
+        QTest::newRow("27") << 27 << 7;
+        QTest::newRow("25") << 25 << 8;
     }
-    void described_and_configured() {
+    void configured() {
         QFETCH(int, type);
-        QFETCH(QString, cycle);
+        QFETCH(int, cycle);
         auto panel = make_panel(type);
-        QTEST(panel->type_name(), "model");
-        auto *configure = child<QToolButton>(*panel, "toolButton");
-        report_rows(*panel);
-        QVERIFY(configure->isEnabled());
-        QCOMPARE(text_of(run_ticks(*panel, cycle.count(' ') + 1)), cycle);
-        auto *spin = child<QDoubleSpinBox>(*panel, "spin");
-        QCOMPARE(spin->singleStep(), 0.01);
-        for (const double step : {0.1, 1.0}) {
-            QTest::keyClick(child(*panel, "step_size_combo"), Qt::Key_Down);
-            QCOMPARE(spin->singleStep(), step);
-        }
-
+        auto *configure = child<QWidget>(*panel, "toolButton");
+        run_script(*panel, *boxes, "rows", raw_rows);
+        run_ticks(*panel, cycle + 1);  // a cycle and the next one's first tick
         panel->on_toolButton_clicked();
         config_dialog *dialog = panel->configuration_dialog();
-        QVERIFY(texts(*dialog, {"hint_label"}).contains("has permanent CAN address 0xFA."));
-        QTest::keyClick(child(*dialog, "coef. P"), Qt::Key_Up);
+        QVERIFY(dialog->findChild<QLabel *>("hint_label")
+                    ->text()
+                    .contains("has permanent CAN address 0xFA."));
+        QTest::keyClick(dialog->findChild<QWidget *>("coef. P"), Qt::Key_Up);
         QCOMPARE(text_of(run_ticks(*panel, panel->queued_commands())),
                  QString(type == 27 ? "" : "(24,2000) (152,0)"));
         dialog->write_button()->click();
         const QString written = text_of(run_ticks(*panel, panel->queued_commands()));
-        QVERIFY2(written.startsWith("(81,1000) (37,10000) (24,2000) ") &&
+        QVERIFY2(written.startsWith("(81,1000) (37,10010) (24,2000) ") &&
                      written.endsWith(" (153,0) (51,1) (51,1)"),
                  qPrintable(written));
         if (type == 27) {
             return;  // no modes
         }
-        QTest::keyClick(child(*panel, "mode"), Qt::Key_Down);
+        QTest::keyClick(child<QWidget>(*panel, "mode"), Qt::Key_Down);
         QVERIFY(!configure->isEnabled());
-        const QString sent = text_of(run_ticks(*panel, cycle.count(' ') + 6));
+        const QString sent = text_of(run_ticks(*panel, cycle + 6));
         QVERIFY2(sent.startsWith("(36,1) (145,0)") &&
                      sent.endsWith(" (209,0) (165,0) (152,0) (147,0) (153,0) (144,0)"),
                  qPrintable(sent));
-        report_rows(*panel);
+        run_script(*panel, *boxes, "rows", raw_rows);
         QVERIFY(configure->isEnabled());
     }
 };

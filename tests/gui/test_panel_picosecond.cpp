@@ -1,15 +1,6 @@
 // The picosecond panels (types 20, 26, 28, 35): each row runs a script of reports and operator
-// actions, then checks what is sent and shown. Script: "code=value" a report; "rows" every
-// configuration row; "fill" the rows and every polled code the script does not give (as 0), so
-// that the first fill runs; "yes", "no", "ok" answer the next box; "ret:w" Return on w; "click:w";
-// "w=v" picks item v of a combo box as the operator does, or sets a spin box. Checks, separated by
-// ";": "sent=..." the ticks that follow; "w.property=value"; "w.hidden"; "w.item<i>" (can combo
-// item i be chosen); "box" the last box's text; "rows" the parameters as code/decimals/step.
+// actions, then checks what is sent and shown (see check_script() and run_script()).
 #include "test_panel_support.h"
-
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QStandardItemModel>
 
 using namespace panel_test;
 
@@ -21,68 +12,6 @@ const QMap<int, long> raw_rows{{81, 5},     {37, 300},   {38, 100},    {55, 400}
                                {22, 10000}, {21, 3950},  {68, 1000},   {69, 200}, {70, 0},
                                {56, 1000},  {57, -2000}, {58, 150000}, {59, 0},   {61, 500}};
 
-QWidget *find(panel_base &panel, const QString &name) {
-    auto *found = panel.findChild<QWidget *>(name);
-    if (!found) {
-        qFatal("no %s", qPrintable(name));
-    }
-    return found;
-}
-
-void run(panel_base &panel, box_answerer &boxes, const QString &script) {
-    const QMap<QString, QMessageBox::StandardButton> answers{
-        {"yes", QMessageBox::Yes}, {"no", QMessageBox::No}, {"ok", QMessageBox::Ok}};
-    for (const QString &step : script.split(' ', Qt::SkipEmptyParts)) {
-        const QString name = step.section(':', -1).section('=', 0, 0);
-        const QString value = step.section('=', 1);
-        if (step == QLatin1String("rows") || step == QLatin1String("fill")) {
-            for (int code : panel.plan().read_codes) {
-                if (step == QLatin1String("fill") && code != poll_plan::silent &&
-                    !script.contains(QString::number(code) + '=')) {
-                    panel.sl_parsed_data_received(code, 0);
-                }
-            }
-            const parameter_list rows = panel.parameters();
-            report_parameters(panel, [&rows](int i) { return raw_rows.value(rows[i].code); });
-        } else if (step.at(0).isDigit()) {
-            panel.sl_parsed_data_received(name.toInt(), value.toLong());
-        } else if (answers.contains(step)) {
-            boxes.expect(step == "ok" ? "WARNING" : "Conformation", answers[step]);
-        } else if (step.startsWith(QLatin1String("ret:"))) {
-            QTest::keyClick(find(panel, name), Qt::Key_Return);
-        } else if (step.startsWith(QLatin1String("click:"))) {
-            static_cast<QAbstractButton *>(find(panel, name))->click();
-        } else if (auto *combo = qobject_cast<QComboBox *>(find(panel, name))) {
-            combo->setCurrentIndex(value.toInt());
-            emit combo->activated(combo->currentIndex());
-        } else {
-            find(panel, name)->setProperty("value", value.toDouble());
-        }
-    }
-}
-
-QString state_of(panel_base &panel, const box_answerer &boxes, const QString &key) {
-    if (key == QLatin1String("box")) {
-        return boxes.shown.isEmpty() ? QString() : boxes.shown.last().text;
-    }
-
-    if (key == QLatin1String("rows")) {
-        QStringList rows;
-        for (const parameter_record &r : panel.parameters()) {
-            rows << QStringLiteral("%1/%2/%3").arg(r.code).arg(r.decimals).arg(r.step);
-        }
-        return rows.join(' ');
-    }
-    QWidget *w = find(panel, key.section('.', 0, 0));
-    const QString property = key.section('.', 1);
-    if (property.startsWith(QLatin1String("item"))) {
-        auto *items = static_cast<QStandardItemModel *>(static_cast<QComboBox *>(w)->model());
-        return QVariant(items->item(property.mid(4).toInt())->isEnabled()).toString();
-    }
-    return property == QLatin1String("hidden") ? QVariant(w->isHidden()).toString()
-                                               : w->property(qPrintable(property)).toString();
-}
-
 const QString ps_rows =
     "81/0/1 37/1/0.1 38/1/0.1 55/1/0.1 54/1/0.1 22/0/1 21/0/0.1 68/4/0.1 "
     "69/4/0.1 70/4/0.1";
@@ -93,26 +22,13 @@ const QString alarm_80 =
 
 }  // namespace
 
-class test_panel_picosecond : public QObject {
+class test_panel_picosecond : public boxed_test {
     Q_OBJECT
 
-    std::unique_ptr<box_answerer> boxes;
-
 private slots:
-    void init() { boxes = std::make_unique<box_answerer>(); }
-    void cleanup() {
-        boxes->verify_all_answered();
-        boxes.reset();
-    }
-
     void behaviour_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("checks");
-        const auto row = [](const char *name, int type, const QString &script,
-                            const QString &checks) {
-            QTest::newRow(name) << type << script << checks;
-        };
+        script_columns();
+        const auto row = script_row;
         // Poll cycles once every row is known, and the rows.
         row("20 cycle, silent tick 4", 20, "rows", "sent=" + ps_fixed + " (160,0);rows=" + ps_rows);
         row("26 cycle; a row reported as -1 is known", 26, "rows 209=-1",
@@ -211,21 +127,7 @@ private slots:
         row("alarm bits without a name", 35, "176=4608 ok click:pb_alarm",
             "box=Output power is close to MAX\n");
     }
-    void behaviour() {
-        QFETCH(int, type);
-        QFETCH(QString, script);
-        QFETCH(QString, checks);
-        auto panel = make_panel(type);
-        run(*panel, *boxes, script);
-        for (const QString &check : checks.split(';', Qt::SkipEmptyParts)) {
-            const QString key = check.section('=', 0, 0);
-            const QString got = key == QLatin1String("sent")
-                                    ? text_of(run_ticks(*panel, check.count(' ') + 1))
-                                    : state_of(*panel, *boxes, key);
-            QCOMPARE(key + '=' + got, check);
-        }
-        QCOMPARE(panel->queued_commands(), 0);
-    }
+    void behaviour() { check_script(*boxes, raw_rows); }
 };
 
 QTEST_MAIN(test_panel_picosecond)

@@ -1,14 +1,21 @@
 #pragma once
-// What the panel tests share: the program's registry, a scripted answerer for message boxes, a
-// catcher for warnings, and ticking a panel while recording what it sends.
+// What the panel tests share: the program's registry, a scripted answerer for message boxes,
+// ticking a panel while recording what it sends, and a script runner for operator and device
+// actions.
 
+#include "config_dialog.h"
 #include "message_route.h"
 #include "panel_base.h"
 #include "panel_registry.h"
 #include "panels.h"
 
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QStandardItemModel>
 #include <QStringList>
 #include <QVector>
 #include <QtTest>
@@ -83,7 +90,8 @@ public:
     QList<message_request> shown;  // every box asked, in order
     QStringList unexpected;        // title and text of each box nobody expected
 
-    // For a test's cleanup(): fails on a box nobody expected and on an expected box that never came.
+    // For a test's cleanup(): fails on a box nobody expected and on an expected box that never
+    // came.
     void verify_all_answered() const {
         QVERIFY2(unexpected.isEmpty(), qPrintable(unexpected.join(QStringLiteral(" | "))));
         QCOMPARE(pending(), 0);
@@ -108,35 +116,20 @@ private:
     message_answerer previous_;
 };
 
-// Records warnings (and worse) while it exists; every message still reaches the previous handler,
-// so Qt Test's expectations on messages keep working.
-class warning_catcher {
-public:
-    warning_catcher() : previous_(qInstallMessageHandler(&handle)) { active_ = this; }
-    ~warning_catcher() {
-        qInstallMessageHandler(previous_);
-        active_ = nullptr;
+// The base of the panel tests: each test function answers boxes through `boxes`, and fails on a
+// box nobody expected or an expected one that never came.
+class boxed_test : public QObject {
+    Q_OBJECT
+
+protected:
+    std::unique_ptr<box_answerer> boxes;
+
+private slots:
+    void init() { boxes = std::make_unique<box_answerer>(); }
+    void cleanup() {
+        boxes->verify_all_answered();
+        boxes.reset();
     }
-    warning_catcher(const warning_catcher &) = delete;
-    warning_catcher &operator=(const warning_catcher &) = delete;
-
-    QStringList warnings;
-
-private:
-    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text) {
-        if (!active_) {
-            return;
-        }
-        if (type != QtDebugMsg && type != QtInfoMsg) {
-            active_->warnings.append(text);
-        }
-        if (active_->previous_) {
-            active_->previous_(type, context, text);
-        }
-    }
-
-    static inline warning_catcher *active_ = nullptr;
-    QtMessageHandler previous_;
 };
 
 // Marks a tick that sent nothing, and a tick that sent more than one pair.
@@ -183,6 +176,114 @@ void report_parameters(panel_base &panel, Raw raw) {
     for (int i = 0; i < parameters.size(); ++i) {
         panel.sl_parsed_data_received(parameters[i].code + 128, raw(i));
     }
+}
+
+// Runs an operator and device script on `panel`, steps separated by spaces: "CODE=VALUE" a report;
+// "rows" every configuration row, raw values from `raw` by code; "fill" the rows and every polled
+// code the script does not give (as 0), so that the first fill runs; "yes", "no", "ok" answer the
+// next box; "ret:W" Return on W; "click:W"; "type:W=TEXT" types TEXT into W; "write" the
+// configuration dialog's "Write"; "W=V" picks item V of a combo box as the operator does, or sets
+// a spin box; "W.PROPERTY=V" sets a property.
+inline void run_script(panel_base &panel, box_answerer &boxes, const QString &script,
+                       const QMap<int, long> &raw) {
+    const QMap<QString, QMessageBox::StandardButton> answers{
+        {"yes", QMessageBox::Yes}, {"no", QMessageBox::No}, {"ok", QMessageBox::Ok}};
+    for (const QString &step : script.split(' ', Qt::SkipEmptyParts)) {
+        const QString name = step.section(':', -1).section('=', 0, 0);
+        const QString value = step.section('=', 1);
+        if (step == QLatin1String("rows") || step == QLatin1String("fill")) {
+            for (int code : panel.plan().read_codes) {
+                if (step == QLatin1String("fill") && code != poll_plan::silent &&
+                    !script.contains(QString::number(code) + '=')) {
+                    panel.sl_parsed_data_received(code, 0);
+                }
+            }
+            const parameter_list rows = panel.parameters();
+            report_parameters(panel, [&](int i) { return raw.value(rows[i].code); });
+        } else if (step.at(0).isDigit()) {
+            panel.sl_parsed_data_received(name.toInt(), value.toLong());
+        } else if (answers.contains(step)) {
+            boxes.expect(step == "ok" ? "WARNING" : "Conformation", answers[step]);
+        } else if (step.startsWith(QLatin1String("ret:"))) {
+            QTest::keyClick(child<QWidget>(panel, name), Qt::Key_Return);
+        } else if (step.startsWith(QLatin1String("click:"))) {
+            child<QAbstractButton>(panel, name)->click();
+        } else if (step == QLatin1String("write")) {
+            panel.on_toolButton_clicked();
+            panel.configuration_dialog()->write_button()->click();
+        } else if (step.startsWith(QLatin1String("type:"))) {
+            auto *spin = child<QAbstractSpinBox>(panel, name);
+            spin->clear();
+            QTest::keyClicks(spin, value);
+        } else if (auto *combo =
+                       qobject_cast<QComboBox *>(child<QWidget>(panel, name.section('.', 0, 0)))) {
+            combo->setCurrentIndex(value.toInt());
+            emit combo->activated(combo->currentIndex());
+        } else {
+            const QString property = name.section('.', 1);
+            child<QWidget>(panel, name.section('.', 0, 0))
+                ->setProperty(property.isEmpty() ? "value" : qPrintable(property),
+                              value.toDouble());
+        }
+    }
+}
+
+// What `key` shows: "box" the last box's text; "rows" the parameters as code/decimals/step;
+// "labels" their labels; "W.hidden"; "W.exists"; "W.item<i>" (can combo item i be chosen);
+// otherwise "W.PROPERTY".
+inline QString script_state(panel_base &panel, const box_answerer &boxes, const QString &key) {
+    const QString property = key.section('.', 1);
+    if (key == QLatin1String("box")) {
+        return boxes.shown.isEmpty() ? QString() : boxes.shown.last().text;
+    }
+    if (key == QLatin1String("rows") || key == QLatin1String("labels")) {
+        QStringList rows;
+        for (const parameter_record &r : panel.parameters()) {
+            rows << (key == QLatin1String("labels")
+                         ? r.label
+                         : QStringLiteral("%1/%2/%3").arg(r.code).arg(r.decimals).arg(r.step));
+        }
+        return rows.join(key == QLatin1String("labels") ? '|' : ' ');
+    }
+    if (property == QLatin1String("exists")) {
+        return QVariant(panel.findChild<QWidget *>(key.section('.', 0, 0)) != nullptr).toString();
+    }
+    QWidget *w = child<QWidget>(panel, key.section('.', 0, 0));
+    if (property.startsWith(QLatin1String("item"))) {
+        auto *items = static_cast<QStandardItemModel *>(static_cast<QComboBox *>(w)->model());
+        return QVariant(items->item(property.mid(4).toInt())->isEnabled()).toString();
+    }
+    return property == QLatin1String("hidden") ? QVariant(w->isHidden()).toString()
+                                               : w->property(qPrintable(property)).toString();
+}
+
+// A script table: each row names a device `type`, a `script` for run_script() and the `checks`.
+inline void script_columns() {
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("checks");
+}
+inline void script_row(const char *name, int type, const QString &script, const QString &checks) {
+    QTest::newRow(name) << type << script << checks;
+}
+
+// Runs the current row of a script table: a panel of its type runs the script, then each of the
+// checks (separated by ";") holds: "sent=..." the ticks that follow, or "KEY=VALUE" for
+// script_state(). Nothing is left queued.
+inline void check_script(box_answerer &boxes, const QMap<int, long> &raw) {
+    QFETCH(int, type);
+    QFETCH(QString, script);
+    QFETCH(QString, checks);
+    auto panel = make_panel(type);
+    run_script(*panel, boxes, script, raw);
+    for (const QString &check : checks.split(';', Qt::SkipEmptyParts)) {
+        const QString key = check.section('=', 0, 0);
+        const QString got = key == QLatin1String("sent")
+                                ? text_of(run_ticks(*panel, check.count(' ') + 1))
+                                : script_state(*panel, boxes, key);
+        QCOMPARE(key + '=' + got, check);
+    }
+    QCOMPARE(panel->queued_commands(), 0);
 }
 
 // One wheel notch over `widget`: up (towards larger spin box values and earlier combo items) for

@@ -346,24 +346,20 @@ private slots:
         QTest::addColumn<int>("exit");
         QTest::addColumn<QString>("record_dir");  // "/" stands for the scratch directory
         QTest::addColumn<QString>("trends");      // "live", a file or empty
-        QTest::newRow("nothing") << QStringList{} << "" << -1 << ""
-                                 << "";
-        QTest::newRow("record") << QStringList{"--record", "rec"} << "" << -1 << "/rec"
-                                << "";
-        QTest::newRow("remembered") << QStringList{} << "/old" << -1 << "/old"
-                                    << "";
-        QTest::newRow("record off") << QStringList{"--record", "off"} << "/old" << -1 << ""
-                                    << "";
-        QTest::newRow("live trends") << QStringList{"--trends"} << "/old" << -1 << "/old"
-                                     << "live";
-        QTest::newRow("recorded trends") << QStringList{"--trends", "a.csv"} << "" << -1 << ""
-                                         << "a.csv";
-        QTest::newRow("file without --trends") << QStringList{"a.csv"} << "/old" << 2 << "/old"
-                                               << "";
-        QTest::newRow("unknown option") << QStringList{"--recrod", "x"} << "" << 2 << ""
-                                        << "";
-        QTest::newRow("help") << QStringList{"--help"} << "" << 0 << ""
-                              << "";
+        const auto row = [](const char *name, const QStringList &arguments, const char *remembered,
+                            int exit, const char *record_dir, const char *trends) {
+            QTest::newRow(name) << arguments << QString(remembered) << exit << QString(record_dir)
+                                << QString(trends);
+        };
+        row("nothing", {}, "", -1, "", "");
+        row("record", {"--record", "rec"}, "", -1, "/rec", "");
+        row("remembered", {}, "/old", -1, "/old", "");
+        row("record off", {"--record", "off"}, "/old", -1, "", "");
+        row("live trends", {"--trends"}, "/old", -1, "/old", "live");
+        row("recorded trends", {"--trends", "a.csv"}, "", -1, "", "a.csv");
+        row("file without --trends", {"a.csv"}, "/old", 2, "/old", "");
+        row("unknown option", {"--recrod", "x"}, "", 2, "", "");
+        row("help", {"--help"}, "", 0, "", "");
     }
     void command_line() {
         QFETCH(QStringList, arguments);

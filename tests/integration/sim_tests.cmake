@@ -1,7 +1,7 @@
-# The device-bus simulator against the frame codec, its line and program, and the comm stack against
-# the simulator over a pseudo-terminal.
+# The device-bus simulator against the frame codec and what the panels read, its line and program,
+# and the comm stack against the simulator over a pseudo-terminal.
 lumivox_add_test(NAME test_sim_devices SOURCES ${CMAKE_CURRENT_LIST_DIR}/test_sim_devices.cpp
-                 LIBS lumivox_sim LABELS integration sim)
+                 LIBS lumivox_sim lumivox_panels LABELS integration sim)
 lumivox_add_test(NAME test_sim_line SOURCES ${CMAKE_CURRENT_LIST_DIR}/test_sim_line.cpp
                  LIBS lumivox_sim LABELS integration sim)
 target_compile_definitions(test_sim_line PRIVATE

@@ -10,7 +10,6 @@
 #include "sim_pty.h"
 
 #include <QPointer>
-#include <QSignalSpy>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -207,27 +206,6 @@ private slots:
         }
     }
 
-    void emission_round_trip_and_drive_ramp() {
-        bus_side sim({{3, 14}});
-        program_side program({3});
-        QVERIFY(program.open(sim.pty.slave_path()));
-        QVERIFY(bring_up(program.at(0)));
-        recording_panel *panel = program.panel(0);
-        panel->queue << qMakePair(17, 5000L) << qMakePair(16, 1L) << qMakePair(144, 0L);
-        for (int i = 0; i < 3; ++i) {
-            program.at(0).tick();
-        }
-        QTRY_VERIFY(panel->got(144, 1));
-        QCOMPARE(sim.bus.find(3)->value(16), 1);
-        sim.bus.advance(60000);
-        panel->queue << qMakePair(145, 0L) << qMakePair(148, 0L);
-        program.at(0).tick();
-        program.at(0).tick();
-        QTRY_VERIFY(panel->got(145, 5000));
-        QTRY_VERIFY(!panel->received.isEmpty() && panel->received.last().first == 148);
-        QVERIFY(panel->received.last().second > 0);  // light while the current flows
-    }
-
     void silent_or_garbled_device_is_lost_and_comes_back_data() {
         QTest::addColumn<bool>("garbage");
         QTest::newRow("silent") << false;
@@ -270,20 +248,6 @@ private slots:
         QVERIFY(bring_up(dev));
         QCOMPARE(dev.type_id(), 20);
         QCOMPARE(program.built, (QList<int>{20, 20}));
-    }
-
-    void adapter_hang_up_disconnects_the_link() {
-        bus_side sim({{1, 5}});
-        program_side program({1});
-        QVERIFY(program.open(sim.pty.slave_path()));
-        QVERIFY(bring_up(program.at(0)));
-        QCOMPARE(program.disconnected.count(), 0);
-        sim.pty.hang_up();
-        QVERIFY(program.disconnected.wait_for(1));
-        // The link stops pulsing the polling cycle once its port is gone.
-        QSignalSpy tearing(&program.link, &serial_connector::sig_tearing);
-        run_in(&program.link, [&program] { program.link.sl_sender(); });
-        QCOMPARE(tearing.count(), 0);
     }
 };
 

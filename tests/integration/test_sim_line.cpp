@@ -119,6 +119,11 @@ private slots:
             << c{"O\r", type_req.left(20) + "\r"} << QByteArray("\r\a") << 0;
         QTest::newRow("closed again") << c{"O\rC\r", type_req + "\r"} << QByteArray("\r\r\a") << 0;
         QTest::newRow("overlong line") << c{QByteArray(200, 'x') + "\r"} << QByteArray("\a") << 0;
+        QByteArray upper = "t" + type_req.mid(1, 20).toUpper();
+        upper += QByteArray::number(frame_codec::crc16_modbus(upper.constData(), 21), 16)
+                     .rightJustified(4, '0')
+                     .toUpper();
+        QTest::newRow("upper-case hex") << c{"O\r", upper + "\r"} << QByteArray("\r") << 1;
     }
     void adapter_answers_like_slcan() {
         QFETCH(QList<QByteArray>, chunks);
@@ -131,9 +136,11 @@ private slots:
         for (const QByteArray &chunk : chunks) {
             out += adapter.feed(chunk);
         }
-        // A frame that reached the device brings its answer after the adapter's replies.
+        // A frame that reached the device brings its answer, in lower case, after the adapter's
+        // replies.
         if (frames > 0) {
             QVERIFY(out.startsWith(expected));
+            QCOMPARE(out, out.toLower());
             const frame_codec::parsed_line answer =
                 frame_codec::parse(QString::fromLatin1(out.mid(expected.size()).chopped(1)));
             QVERIFY(answer.is_frame);
@@ -144,26 +151,6 @@ private slots:
         }
         QCOMPARE(adapter.frames_passed(), frames);
         QCOMPARE(bus.frames(), frames);
-    }
-
-    void adapter_takes_upper_case_hex() {
-        sim_bus bus;
-        QVERIFY(bus.add_device(0xAB, 20));
-        slcan_adapter adapter(bus);
-        QByteArray text = "t0AB8D1220000000000000000";
-        const quint16 crc = frame_codec::crc16_modbus(text.constData(), 21);
-        text = text.left(21) + QByteArray::number(crc, 16).rightJustified(4, '0').toUpper();
-        const QByteArray out = adapter.feed("O\r" + text + "\r");
-        QVERIFY(out.startsWith("\r"));
-        const QByteArray answer = out.mid(1).chopped(1);
-        QCOMPARE(answer, answer.toLower());  // answers always in lower case
-        const frame_codec::parsed_line parsed = frame_codec::parse(QString::fromLatin1(answer));
-        QCOMPARE(parsed.code, 0xD1);
-        QCOMPARE(parsed.sender, 0xAB);
-        QCOMPARE(parsed.value, 0xAB);
-        QCOMPARE(adapter.bit_rate_code(), -1);
-        adapter.feed("S6\r");
-        QCOMPARE(adapter.bit_rate_code(), 6);
     }
 
     void line_carries_requests_and_answers() {
@@ -313,28 +300,22 @@ private slots:
         QTest::addColumn<QStringList>("args");
         QTest::addColumn<QString>("message");  // part of the error, "" when parsing passes
         QTest::addColumn<QString>("populate_message");
-        QTest::newRow("type not modelled") << QStringList{"--device", "1:24"} << "not modelled"
-                                           << "";
-        QTest::newRow("id twice") << QStringList{"--device", "1:14", "--device", "1:20"} << "twice"
-                                  << "";
-        QTest::newRow("id too large") << QStringList{"--device", "0x800:14"} << "0x7FF"
-                                      << "";
-        QTest::newRow("not a number") << QStringList{"--silent", "two"} << "ID[:AFTER_MS"
-                                      << "";
-        QTest::newRow("negative time") << QStringList{"--silent", "1:-5"} << "ID[:AFTER_MS"
-                                       << "";
-        QTest::newRow("unknown option") << QStringList{"--bogus"} << "bogus"
-                                        << "";
-        QTest::newRow("stray argument") << QStringList{"14"} << "unexpected"
-                                        << "";
-        QTest::newRow("alarm without bits") << QStringList{"--alarm", "1:0"} << "BITS"
-                                            << "";
-        QTest::newRow("fault on an empty address")
-            << QStringList{"--device", "1:14", "--garbage", "2"} << ""
-            << "no device at CAN ID 2";
-        QTest::newRow("alarm on a type without alarm word")
-            << QStringList{"--device", "1:20", "--alarm", "1:1"} << ""
-            << "alarm word";
+        const auto row = [](const char *name, const QStringList &args, const char *message,
+                            const char *populate_message = "") {
+            QTest::newRow(name) << args << QString(message) << QString(populate_message);
+        };
+        row("type not modelled", {"--device", "1:24"}, "not modelled");
+        row("id twice", {"--device", "1:14", "--device", "1:20"}, "twice");
+        row("id too large", {"--device", "0x800:14"}, "0x7FF");
+        row("not a number", {"--silent", "two"}, "ID[:AFTER_MS");
+        row("negative time", {"--silent", "1:-5"}, "ID[:AFTER_MS");
+        row("unknown option", {"--bogus"}, "bogus");
+        row("stray argument", {"14"}, "unexpected");
+        row("alarm without bits", {"--alarm", "1:0"}, "BITS");
+        row("fault on an empty address", {"--device", "1:14", "--garbage", "2"}, "",
+            "no device at CAN ID 2");
+        row("alarm on a type without alarm word", {"--device", "1:20", "--alarm", "1:1"}, "",
+            "alarm word");
     }
     void command_line_errors() {
         QFETCH(QStringList, args);

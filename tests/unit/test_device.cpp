@@ -24,8 +24,6 @@ public:
     int refreshes = 0;
     void sl_refresh_state() override { ++refreshes; }
     void sl_parsed_data_received(int code, long value) override { received.append({code, value}); }
-    void send(int code, long value) { emit sig_w_send_command(code, value); }
-    void report_emission(int state) { emit send_emission(state); }
 };
 
 // Emits answer lines from another thread, as the serial link does.
@@ -107,7 +105,8 @@ private slots:
         QCOMPARE(placed.count(), 1);
         QCOMPARE(placed.at(0).at(1).toInt(), 2);
         // The separator line closes the panel's layout; the panel keeps its height.
-        auto *line = qobject_cast<QFrame *>(panel->layout()->itemAt(panel->layout()->count() - 1)->widget());
+        auto *line =
+            qobject_cast<QFrame *>(panel->layout()->itemAt(panel->layout()->count() - 1)->widget());
         QVERIFY(line);
         QCOMPARE(line->frameShape(), QFrame::HLine);
         QCOMPARE(line->frameShadow(), QFrame::Sunken);
@@ -135,25 +134,6 @@ private slots:
         QCOMPARE(panel->received.at(1), qMakePair(0x92, -1L));
         QCOMPARE(panel->received.at(2), qMakePair(0xD0, 0L));
         QCOMPARE(dev.type_id(), 20);
-    }
-
-    void panel_commands_and_emission_reach_the_device() {
-        device dev(&host, &registry);
-        dev.set_can_id(0x10);
-        deliver(dev, answer(0x10, 0xD0, 14));
-        dev.tick();
-        auto *panel = qobject_cast<recording_panel *>(dev.current_panel());
-        QVERIFY(panel);
-        // Frames composed in the device's thread arrive here queued, as at the serial link.
-        QStringList sent;
-        connect(&dev, &device::sig_send_command, this, [&sent](QString f) { sent << f; });
-        panel->send(0x12, 250);
-        panel->send(0x12, -5);
-        QTRY_COMPARE(sent.size(), 2);
-        QCOMPARE(sent.at(0), QStringLiteral("t010812220000000000faade4\r\n"));
-        QCOMPARE(sent.at(1), frame_codec::compose(0x10, 0x12, 0xFFFFFFFBu));
-        panel->report_emission(1);
-        QTRY_COMPARE(dev.emission_state(), 1);
     }
 
     void silence_marks_the_device_lost_data() {

@@ -12,7 +12,8 @@ quint16 crc_bitwise(const QByteArray &bytes) {
     for (char c : bytes) {
         crc ^= static_cast<quint8>(c);
         for (int i = 0; i < 8; ++i) {
-            crc = (crc & 1) ? static_cast<quint16>((crc >> 1) ^ 0xA001) : static_cast<quint16>(crc >> 1);
+            crc = (crc & 1) ? static_cast<quint16>((crc >> 1) ^ 0xA001)
+                            : static_cast<quint16>(crc >> 1);
         }
     }
     return crc;
@@ -31,10 +32,6 @@ QString answer(int sender, int code, const QString &twelve_digits) {
 class test_frame_codec : public QObject {
     Q_OBJECT
 private slots:
-    void crc_check_value() {
-        QCOMPARE(frame_codec::crc16_modbus("123456789", 9), quint16(0x4B37));
-    }
-
     void crc_table_matches_bitwise_crc() {
         // Every one-byte message exercises one table entry.
         for (int b = 0; b < 256; ++b) {
@@ -42,6 +39,7 @@ private slots:
             QCOMPARE(frame_codec::crc16_modbus(&c, 1), crc_bitwise(QByteArray(1, c)));
         }
         QCOMPARE(frame_codec::crc_table()[1], quint16(0xC0C1));
+        QCOMPARE(frame_codec::crc16_modbus("123456789", 9), quint16(0x4B37));  // check value
     }
 
     void compose_data() {
@@ -80,28 +78,32 @@ private slots:
         QTest::addColumn<int>("sender");
         QTest::addColumn<int>("code");
         QTest::addColumn<long>("value");
-        QTest::newRow("plain answer") << answer(5, 0x91, "0000000000fa") << true << 5 << 0x91 << 250L;
-        QTest::newRow("negative -250") << answer(5, 0x92, "0000ffffff06") << true << 5 << 0x92 << -250L;
-        QTest::newRow("all ones is -1") << answer(5, 0x92, "0000ffffffff") << true << 5 << 0x92 << -1L;
-        QTest::newRow("most negative") << answer(5, 0x92, "000080000000") << true << 5 << 0x92
-                                       << long(INT32_MIN);
-        QTest::newRow("reserved bytes not zero") << answer(5, 0x91, "0001000000fa") << true << 5 << 0x91
-                                                 << 0L;
-        QTest::newRow("value not hex") << answer(5, 0x91, "0000zz0000fa") << true << 5 << 0x91 << 0L;
+        QTest::newRow("plain answer")
+            << answer(5, 0x91, "0000000000fa") << true << 5 << 0x91 << 250L;
+        QTest::newRow("negative -250")
+            << answer(5, 0x92, "0000ffffff06") << true << 5 << 0x92 << -250L;
+        QTest::newRow("all ones is -1")
+            << answer(5, 0x92, "0000ffffffff") << true << 5 << 0x92 << -1L;
+        QTest::newRow("most negative")
+            << answer(5, 0x92, "000080000000") << true << 5 << 0x92 << long(INT32_MIN);
+        QTest::newRow("reserved bytes not zero")
+            << answer(5, 0x91, "0001000000fa") << true << 5 << 0x91 << 0L;
+        QTest::newRow("value not hex")
+            << answer(5, 0x91, "0000zz0000fa") << true << 5 << 0x91 << 0L;
         QTest::newRow("type 0") << answer(9, 0xD0, "000000000000") << true << 9 << 0xD0 << 0L;
-        QTest::newRow("wrong checksum still read") << QStringLiteral("t00a891090000000000120000") << true
-                                                   << 9 << 0x91 << 0x12L;
-        QTest::newRow("upper case hex") << QStringLiteral("t0058910A0000000000FF1234") << true << 10
-                                        << 0x91 << 255L;
-        QTest::newRow("leftover line feed") << QStringLiteral("\nt0058910500000000000a1234") << false << 0
-                                            << 0 << 0L;
+        QTest::newRow("wrong checksum still read")
+            << QStringLiteral("t00a891090000000000120000") << true << 9 << 0x91 << 0x12L;
+        QTest::newRow("upper case hex")
+            << QStringLiteral("t0058910A0000000000FF1234") << true << 10 << 0x91 << 255L;
+        QTest::newRow("leftover line feed")
+            << QStringLiteral("\nt0058910500000000000a1234") << false << 0 << 0 << 0L;
         QTest::newRow("adapter OK") << QString() << false << 0 << 0 << 0L;
         QTest::newRow("bell") << QStringLiteral("\a") << false << 0 << 0 << 0L;
-        QTest::newRow("extended frame") << QStringLiteral("T0000005891050000000000000000") << false << 0
-                                        << 0 << 0L;
+        QTest::newRow("extended frame")
+            << QStringLiteral("T0000005891050000000000000000") << false << 0 << 0 << 0L;
         QTest::newRow("short line") << QStringLiteral("t0058") << true << 0 << 0 << 0L;
-        QTest::newRow("sender not hex") << answer(0, 0x91, "000000000001").replace(7, 2, "zz") << true
-                                        << 0 << 0x91 << 1L;
+        QTest::newRow("sender not hex")
+            << answer(0, 0x91, "000000000001").replace(7, 2, "zz") << true << 0 << 0x91 << 1L;
     }
     void parse() {
         QFETCH(QString, line);

@@ -1,7 +1,7 @@
 // Renders every registered panel, expanded and collapsed, with plausible device reports fed in,
 // plus its configuration dialog, to PNG files for a look by eye. Not a test: it asserts nothing.
 //
-//   QT_QPA_PLATFORM=offscreen render_panels [output directory, default /tmp/panel_renders]
+//   QT_QPA_PLATFORM=offscreen lumivox_panel_shots [output directory, default /tmp/panel_renders]
 #include "config_dialog.h"
 #include "panel_base.h"
 #include "panel_registry.h"
