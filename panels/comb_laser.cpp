@@ -35,16 +35,16 @@ comb_laser::comb_laser(QWidget *parent)
     setup_driver(widgets_of(ui.get()), plan, parameter_table());
 
     // Negative on the wire, a positive magnitude on screen.
-    bind_reading({bias_voltage_code + 128, tr("Bias voltage"), tr("V"), -100, 2, 1}, &bias_voltage_,
-                 ui->l_bias_voltage);
-    bind_reading({bias_current_report, tr("Bias current"), tr("mA"), 10, 1, 3}, &bias_current_,
-                 ui->l_bias_current);
+    bind_reading({"bias_voltage", bias_voltage_code + 128, tr("Bias voltage"), tr("V"), -100, 2, 1},
+                 &bias_voltage_, ui->l_bias_voltage);
+    bind_reading({"bias_current", bias_current_report, tr("Bias current"), tr("mA"), 10, 1, 3},
+                 &bias_current_, ui->l_bias_current);
     // Milliamperes offset by 2500: 2500 is no current.
-    bind_reading({tec_current_report, tr("TEC current"), tr("A"), 1000, 2, 1, 2500}, &tec_current_,
-                 ui->l_tec_current);
-    bind_switch(bias_switch_code + 128, &bias_on_, ui->l_bias_state, {ui->pb_on_off_bias},
+    bind_reading({"tec_current", tec_current_report, tr("TEC current"), tr("A"), 1000, 2, 1, 2500},
+                 &tec_current_, ui->l_tec_current);
+    bind_switch(bias_switch_code + 128, &bias_on_, ui->l_bias_state, {ui->pb_on_off_bias}, "bias",
                 tr("Bias"), tr("On"), tr("Off"));
-    describe_command(bias_switch_code, tr("Bias"), {}, 1);
+    describe_command(bias_switch_code, "bias", tr("Bias"), {}, 1);
     bind_setpoint(ui->dsb_bias, bias_voltage_code, -100);
 
     apply_style(ui->pb_on_off_bias, panel_style::body_switch());

@@ -27,19 +27,24 @@ void cw_driver_base::setup_driver(const widgets &form, const poll_plan &plan,
                   {w_.on_off_button, w_.start_stop_button_alt}, {emission_code});
     bind_tec(tec_code, tec_code + 128, w_.chb_tec);
     const int decimals = res_.value_decimals;
-    bind_reading({current_code + 128, tr("Current"), tr("mA"), res_.current_divisor, decimals},
-                 &current_, w_.current_ld_label);
     bind_reading(
-        {temperature_code + 128, tr("Temperature"), tr("°C"), res_.temperature_divisor, decimals},
-        &temperature_, w_.temp_label);
-    bind_reading({power_report, tr("Power"), tr("mW"), res_.power_divisor, decimals}, &power_,
-                 w_.power_label);
-    bind_state(mode_code + 128, &mode_, tr("Mode"), [this](int mode) { return mode_text(mode); });
-    describe_command(current_code, tr("Current"), tr("mA"), res_.current_scale);
-    describe_command(power_code, tr("Power"), tr("mW"), res_.power_scale);
-    describe_command(mode_code, tr("Mode"), {}, 1);
+        {"current", current_code + 128, tr("Current"), tr("mA"), res_.current_divisor, decimals},
+        &current_, w_.current_ld_label);
+    bind_reading({"temperature", temperature_code + 128, tr("Temperature"), tr("°C"),
+                  res_.temperature_divisor, decimals},
+                 &temperature_, w_.temp_label);
+    bind_reading({"power", power_report, tr("Power"), tr("mW"), res_.power_divisor, decimals},
+                 &power_, w_.power_label);
+    bind_state(mode_code + 128, &mode_, "mode", tr("Mode"),
+               [this](int mode) { return mode_text(mode); });
+    describe_command(current_code, "current", tr("Current"), tr("mA"), res_.current_scale);
+    describe_command(power_code, "power", tr("Power"), tr("mW"), res_.power_scale);
+    describe_command(mode_code, "mode", tr("Mode"), {}, 1);
 
-    bind_setpoint(w_.spin, [this] { confirm_main_setpoint(); });
+    // The main set-point is the current, or the power in the constant-power mode.
+    bind_setpoint(
+        w_.spin, [this] { confirm_main_setpoint(); }, QStringLiteral("drive"),
+        tr("Current or power"), [this] { return power_mode() ? tr("mW") : tr("mA"); });
     bind_setpoint(w_.spin_temp, temperature_code, res_.temperature_scale, &temperature_text_,
                   res_.temperature_decimals);
     block_wheel(w_.mode);

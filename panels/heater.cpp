@@ -23,10 +23,11 @@ heater::heater(QWidget *parent) : panel_base(parent), ui(new Ui::heater) {
     set_parameters({{81, tr("CAN ID"), 0}});
 
     bind_switch(switch_code + 128, &heater_on_, ui->l_onoff,
-                {ui->on_off_button, ui->start_stop_button_alt}, tr("Heater"), tr("ON"), tr("OFF"));
-    describe_command(switch_code, tr("Heater"), {}, 1);
-    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3}, &temperature_,
-                 ui->l_temp);
+                {ui->on_off_button, ui->start_stop_button_alt}, "heater", tr("Heater"), tr("ON"),
+                tr("OFF"));
+    describe_command(switch_code, "heater", tr("Heater"), {}, 1);
+    bind_reading({"temperature", temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3},
+                 &temperature_, ui->l_temp);
     bind_setpoint(ui->dsb_temp, temperature_code, 10);
     set_store_commands({});
 

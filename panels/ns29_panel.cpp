@@ -11,13 +11,13 @@ ns29_panel::ns29_panel(QWidget *parent)
     setup_driver(current_widgets_of(ui.get()),
                  {sync_mode_code + 128, sync_delay_code + 128, pulse_delay_code + 128},
                  current_driver_parameters());
-    bind_reading({sync_delay_code + 128, tr("Sync delay"), tr("ns"), 10, 1, 2}, &sync_delay_,
-                 ui->l_sync_delay);
-    bind_reading({pulse_delay_code + 128, tr("Pulse delay"), tr("ns"), 10, 1, 2}, &pulse_delay_,
-                 ui->l_pulse_delay);
-    bind_state(sync_mode_code + 128, &sync_mode_, tr("Sync mode"),
+    bind_reading({"sync_delay", sync_delay_code + 128, tr("Sync delay"), tr("ns"), 10, 1, 2},
+                 &sync_delay_, ui->l_sync_delay);
+    bind_reading({"pulse_delay", pulse_delay_code + 128, tr("Pulse delay"), tr("ns"), 10, 1, 2},
+                 &pulse_delay_, ui->l_pulse_delay);
+    bind_state(sync_mode_code + 128, &sync_mode_, "sync_mode", tr("Sync mode"),
                [](int mode) { return sync_mode_names().value(mode, QString::number(mode)); });
-    describe_command(sync_mode_code, tr("Sync mode"), {}, 1);
+    describe_command(sync_mode_code, "sync_mode", tr("Sync mode"), {}, 1);
     bind_setpoint(ui->dsb_pulse_delay, pulse_delay_code, 10);
     bind_setpoint(ui->dsb_sync_delay, sync_delay_code, 10);
     block_wheel(ui->cb_sync_mode);

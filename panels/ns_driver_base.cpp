@@ -35,7 +35,7 @@ const QVector<panel_command> mode_commands[] = {
 ns_driver_base::ns_driver_base(QWidget *parent, const model &m) : panel_base(parent), m_(m) {}
 
 ns_driver_base::model ns_driver_base::current_drive(double rate_cap, double mhz_maximum) {
-    return {tr("Current"), tr("A"), 100, 2, rate_cap, mhz_maximum};
+    return {QStringLiteral("current"), tr("Current"), tr("A"), 100, 2, rate_cap, mhz_maximum};
 }
 
 QStringList ns_driver_base::mode_names() {
@@ -74,12 +74,12 @@ void ns_driver_base::setup_driver(const widgets &form, const QVector<int> &extra
                   {w_.pb_on_off, w_.start_stop_button_alt},
                   {emission_code, emission_companion_code});
     bind_tec(tec_code, tec_code + 128, w_.chb_tec);
-    bind_reading(
-        {drive_code + 128, m_.drive_quantity, m_.drive_unit, m_.drive_scale, m_.drive_decimals, 3},
-        &drive_, w_.l_drive);
-    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3}, &temperature_,
-                 w_.l_temp);
-    bind_reading({rate_code + 128, tr("Frequency"), tr("Hz"), 1, 0, 8}, &rate_);
+    bind_reading({m_.drive_key, drive_code + 128, m_.drive_quantity, m_.drive_unit, m_.drive_scale,
+                  m_.drive_decimals, 3},
+                 &drive_, w_.l_drive);
+    bind_reading({"temperature", temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3},
+                 &temperature_, w_.l_temp);
+    bind_reading({"frequency", rate_code + 128, tr("Frequency"), tr("Hz"), 1, 0, 8}, &rate_);
     reserve_text(w_.l_freq, frequency_text(888888));
     // The rate and the duration bound each other: their maximum labels change with the readings
     // (the minimum ones with the range).
@@ -87,11 +87,13 @@ void ns_driver_base::setup_driver(const widgets &form, const QVector<int> &extra
     reserve_text(w_.l_freq_max, QStringLiteral("88888888"));
     reserve_text(w_.l_dura_min, QStringLiteral("88.8"));
     reserve_text(w_.l_dura_max, QStringLiteral("88888.8"));
-    bind_reading({duration_code + 128, tr("Pulse duration"), tr("ns"), 10, 1}, &duration_,
-                 w_.l_dura);
-    bind_reading({gated_code + 128, tr("Gated count"), {}, 1, 0}, &gated_, w_.l_gated_count);
-    bind_reading({cut_code + 128, tr("Cut count"), {}, 1, 0}, &cut_, w_.l_cutted_count);
-    bind_state(source_code + 128, &source_, tr("Trigger source"), [](int source) {
+    bind_reading({"duration", duration_code + 128, tr("Pulse duration"), tr("ns"), 10, 1},
+                 &duration_, w_.l_dura);
+    bind_reading({"gated_count", gated_code + 128, tr("Gated count"), {}, 1, 0}, &gated_,
+                 w_.l_gated_count);
+    bind_reading({"cut_count", cut_code + 128, tr("Cut count"), {}, 1, 0}, &cut_,
+                 w_.l_cutted_count);
+    bind_state(source_code + 128, &source_, "trigger_source", tr("Trigger source"), [](int source) {
         switch (source) {
             case internal:
                 return tr("Internal");
@@ -103,12 +105,14 @@ void ns_driver_base::setup_driver(const widgets &form, const QVector<int> &extra
                 return QString::number(source);
         }
     });
-    describe_command(source_code, tr("Trigger source"), {}, 1);
-    describe_command(rate_code, tr("Frequency"), tr("Hz"), 1);
+    describe_command(source_code, "trigger_source", tr("Trigger source"), {}, 1);
+    describe_command(rate_code, "frequency", tr("Frequency"), tr("Hz"), 1);
 
     bind_setpoint(w_.dsb_drive, drive_code, m_.drive_scale, &drive_text_, m_.drive_decimals);
     bind_setpoint(w_.dsb_temp, temperature_code, 10, &temperature_text_, 1);
-    bind_setpoint(w_.dsb_freq, [this] { confirm_rate(); });
+    bind_setpoint(
+        w_.dsb_freq, [this] { confirm_rate(); }, QStringLiteral("frequency"), tr("Frequency"),
+        [this] { return w_.cb_freq_range->currentText(); });
     bind_setpoint(w_.dsb_dura, duration_code, 10);
     bind_setpoint(w_.dsb_gated_count, gated_code, 1);
     bind_setpoint(w_.dsb_cutted_count, cut_code, 1);
@@ -120,7 +124,7 @@ void ns_driver_base::setup_driver(const widgets &form, const QVector<int> &extra
 
 void ns_driver_base::setup_bias(const bias_widgets &bias) {
     bias_ = bias;
-    bind_reading({bias.report_code, tr("Bias"), tr("mA"), 10, 1, 3}, &bias_reading_,
+    bind_reading({"bias", bias.report_code, tr("Bias"), tr("mA"), 10, 1, 3}, &bias_reading_,
                  bias.value_label);
     bind_setpoint(bias.spin, bias.write_code, 10);
 }

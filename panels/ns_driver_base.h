@@ -57,6 +57,7 @@ public:
 
     // How a member of the family drives its diode and how fast it may pulse.
     struct model {
+        QString drive_key;        // "current" or "voltage"
         QString drive_quantity;   // "Current" or "Voltage"
         QString drive_unit;       // "A" or "V"
         double drive_scale = 1;   // wire units per drive unit, both ways

@@ -9,7 +9,13 @@ namespace {
 // The pulse voltage travels in 0.1 V and is shown with 1 decimal; the duty cycle bounds the rate
 // at 2 MHz.
 ns_driver_base::model voltage_drive() {
-    return {ns_driver_base::tr("Voltage"), ns_driver_base::tr("V"), 10, 1, 2000000, 30};
+    return {QStringLiteral("voltage"),
+            ns_driver_base::tr("Voltage"),
+            ns_driver_base::tr("V"),
+            10,
+            1,
+            2000000,
+            30};
 }
 
 }  // namespace
@@ -27,10 +33,11 @@ ns_gss_triangle_panel::ns_gss_triangle_panel(QWidget *parent)
                  parameter_table());
     setup_bias(bias_of(ui.get(), bias_code, bias_code + 128));
     // The factor is shown with a volt sign after it, as the drivers' own panels show it.
-    bind_reading({rise_code + 128, tr("Triangle rise factor"), {}, 100, 2}, &rise_);
+    bind_reading({"triangle_rise_factor", rise_code + 128, tr("Triangle rise factor"), {}, 100, 2},
+                 &rise_);
     reserve_text(ui->l_triangle_rise, QStringLiteral("88.88 V"));
-    bind_reading({pulse_delay_code + 128, tr("Pulse delay"), tr("ns"), 10, 1, 3}, &pulse_delay_,
-                 ui->l_pulse_delay);
+    bind_reading({"pulse_delay", pulse_delay_code + 128, tr("Pulse delay"), tr("ns"), 10, 1, 3},
+                 &pulse_delay_, ui->l_pulse_delay);
     bind_setpoint(ui->dsb_triangle_rise, rise_code, 100);
     bind_setpoint(ui->dsb_pulse_delay, pulse_delay_code, 10);
     finish_setup(ui->device_widget);

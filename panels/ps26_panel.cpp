@@ -10,7 +10,8 @@ ps26_panel::ps26_panel(QWidget *parent) : ps_driver_base(parent), ui(new Ui::ps2
                        180, 181, 164, 161, energy_code + 128};
     plan.unknown_mark = unknown_row;
     // The pulse energy is a plain number: the device gives it no unit.
-    bind_reading({energy_code + 128, tr("Pulse energy"), {}, 10, 1, 3}, &energy_, ui->l_energy);
+    bind_reading({"pulse_energy", energy_code + 128, tr("Pulse energy"), {}, 10, 1, 3}, &energy_,
+                 ui->l_energy);
     bind_setpoint(ui->dsb_energy, energy_code, 10);
 
     // Neither bar subtracts its minimum here.

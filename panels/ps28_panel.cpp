@@ -25,13 +25,13 @@ ps28_panel::ps28_panel(QWidget *parent) : ps_driver_base(parent), ui(new Ui::ps2
     setup_driver(burst_widgets_of(ui.get()), traits{}, plan, driver_rows());
 
     // The delays are plain numbers, in the device's own unit.
-    bind_state(sync_mode_code + 128, &sync_mode_, tr("Sync mode"),
+    bind_state(sync_mode_code + 128, &sync_mode_, "sync_mode", tr("Sync mode"),
                [](int mode) { return sync_mode_names().value(mode, QString::number(mode)); });
-    describe_command(sync_mode_code, tr("Sync mode"), {}, 1);
-    bind_reading({sync_delay_code + 128, tr("Sync delay"), {}, 10, 1}, &sync_delay_,
+    describe_command(sync_mode_code, "sync_mode", tr("Sync mode"), {}, 1);
+    bind_reading({"sync_delay", sync_delay_code + 128, tr("Sync delay"), {}, 10, 1}, &sync_delay_,
                  ui->l_sync_delay);
-    bind_reading({pulse_delay_code + 128, tr("Pulse delay"), {}, 10, 1}, &pulse_delay_,
-                 ui->l_pulse_delay);
+    bind_reading({"pulse_delay", pulse_delay_code + 128, tr("Pulse delay"), {}, 10, 1},
+                 &pulse_delay_, ui->l_pulse_delay);
     bind_setpoint(ui->dsb_pulse_delay, pulse_delay_code, 10);
     bind_setpoint(ui->dsb_sync_delay, sync_delay_code, 10);
     // Turning the wheel over the sync mode would ask to make this driver a master or a slave.

@@ -48,26 +48,30 @@ void ps_driver_base::setup_driver(const widgets &form, const traits &member, con
     bind_emission(t_.emission_report, w_.l_emission_state, {w_.start_stop_button_alt, w_.pb_on_off},
                   t_.emission_writes);
     bind_tec(tec_code, tec_code + 128, w_.chb_tec);
-    const reading_spec voltage_spec{voltage_code + 128, tr("Voltage"), tr("V"), 10, 1, 3};
+    const reading_spec voltage_spec{"voltage", voltage_code + 128, tr("Voltage"), tr("V"), 10, 1,
+                                    3};
     bind_reading(voltage_spec, &voltage_, w_.l_volt);
-    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3}, &temperature_,
-                 w_.l_temp);
+    bind_reading({"temperature", temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3},
+                 &temperature_, w_.l_temp);
     // The rate label changes its unit with the magnitude; it is shown by the refresh.
-    bind_reading({frequency_report, tr("Frequency"), tr("Hz"), 1, 0, 8}, &frequency_);
+    bind_reading({"frequency", frequency_report, tr("Frequency"), tr("Hz"), 1, 0, 8}, &frequency_);
     reserve_text(w_.l_freq, QStringLiteral("888 kHz"));
-    bind_state(source_code + 128, &source_, tr("Mode"), [this](int) { return mode_name(); });
-    describe_command(source_code, tr("Mode"), {}, 1);
-    describe_command(frequency_code, tr("Frequency"), tr("Hz"), 1);
+    bind_state(source_code + 128, &source_, "mode", tr("Mode"),
+               [this](int) { return mode_name(); });
+    describe_command(source_code, "mode", tr("Mode"), {}, 1);
+    describe_command(frequency_code, "frequency", tr("Frequency"), tr("Hz"), 1);
     if (w_.dsb_gated_count) {
-        bind_reading({gated_count_code + 128, tr("Burst pulses"), {}, 1, 0, 5}, &gated_count_,
-                     w_.l_gated_count);
-        bind_reading({cut_count_code + 128, tr("Burst cut"), {}, 1, 0, 5}, &cut_count_,
+        bind_reading({"burst_pulses", gated_count_code + 128, tr("Burst pulses"), {}, 1, 0, 5},
+                     &gated_count_, w_.l_gated_count);
+        bind_reading({"burst_cut", cut_count_code + 128, tr("Burst cut"), {}, 1, 0, 5}, &cut_count_,
                      w_.l_cutted_count);
     }
 
     bind_setpoint(w_.dsb_volt, voltage_code, 10, &voltage_text_, 1);
     bind_setpoint(w_.dsb_temp, temperature_code, 10, &temperature_text_, 1);
-    bind_setpoint(w_.dsb_freq, [this] { confirm_frequency(); });
+    bind_setpoint(
+        w_.dsb_freq, [this] { confirm_frequency(); }, QStringLiteral("frequency"), tr("Frequency"),
+        [this] { return w_.cb_freq_range->currentText(); });
     if (w_.dsb_gated_count) {
         bind_setpoint(w_.dsb_gated_count, gated_count_code, 1);
         bind_setpoint(w_.dsb_cutted_count, cut_count_code, 1);

@@ -31,24 +31,32 @@ pulse_picker::pulse_picker(QWidget *parent) : panel_base(parent), ui(new Ui::pul
     set_poll_plan(plan);
     set_parameters({{81, tr("CAN ID"), 0}});
 
-    bind_reading({frequency_report, tr("Frequency"), tr("kHz"), 1000, 3, 4}, &frequency_,
-                 ui->l_freq);
+    bind_reading({"frequency", frequency_report, tr("Frequency"), tr("kHz"), 1000, 3, 4},
+                 &frequency_, ui->l_freq);
     // (8192 - reported) / 8192 × 100 %.
-    bind_reading(
-        {level_code + 128, tr("Output level"), tr("%"), -level_steps / 100, 1, 3, level_steps},
-        &level_, ui->l_amp);
-    bind_reading({divider_code + 128, tr("Divider"), {}, 1, 0, 5}, &divider_, ui->l_div);
-    bind_reading({gate_code + 128, tr("Output pulses"), {}, 1, 0, 5}, &gated_, ui->l_gate);
-    bind_reading({cut_code + 128, tr("Skipped pulses"), {}, 1, 0, 5}, &cut_, ui->l_cut);
-    bind_state(mode_code + 128, &mode_, tr("Mode"), [this](int mode) { return mode_text(mode); });
-    describe_command(mode_code, tr("Mode"), {}, 1);
-    describe_command(level_code, tr("Output level"), tr("%"), -level_steps / 100, level_steps);
+    bind_reading({"output_level", level_code + 128, tr("Output level"), tr("%"), -level_steps / 100,
+                  1, 3, level_steps},
+                 &level_, ui->l_amp);
+    bind_reading({"divider", divider_code + 128, tr("Divider"), {}, 1, 0, 5}, &divider_, ui->l_div);
+    bind_reading({"output_pulses", gate_code + 128, tr("Output pulses"), {}, 1, 0, 5}, &gated_,
+                 ui->l_gate);
+    bind_reading({"skipped_pulses", cut_code + 128, tr("Skipped pulses"), {}, 1, 0, 5}, &cut_,
+                 ui->l_cut);
+    bind_state(mode_code + 128, &mode_, "mode", tr("Mode"),
+               [this](int mode) { return mode_text(mode); });
+    describe_command(mode_code, "mode", tr("Mode"), {}, 1);
+    describe_command(level_code, "output_level", tr("Output level"), tr("%"), -level_steps / 100,
+                     level_steps);
 
-    bind_setpoint(ui->dsb_ampl, [this] {
-        const double percent = ui->dsb_ampl->value();
-        level_text_ = QString::number(percent, 'f', 1);
-        queue_command(level_code, scaling::to_wire(level_steps - percent / 100 * level_steps, 1));
-    });
+    bind_setpoint(
+        ui->dsb_ampl,
+        [this] {
+            const double percent = ui->dsb_ampl->value();
+            level_text_ = QString::number(percent, 'f', 1);
+            queue_command(level_code,
+                          scaling::to_wire(level_steps - percent / 100 * level_steps, 1));
+        },
+        QStringLiteral("output_level"), tr("Output level"), [] { return tr("%"); });
     bind_setpoint(ui->dsb_divider, divider_code, 1, &divider_text_, 0);
     bind_setpoint(ui->dsb_gate, gate_code, 1);
     bind_setpoint(ui->dsb_cut, cut_code, 1);

@@ -28,22 +28,22 @@ vtr_sns_panel::vtr_sns_panel(QWidget *parent) : panel_base(parent), ui(new Ui::v
     bind_emission(emission_code + 128, ui->l_emission_state,
                   {ui->pb_on_off, ui->start_stop_button_alt}, {emission_code});
     bind_tec(tec_code, tec_code + 128, ui->chb_tec);
-    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3}, &temperature_,
-                 ui->l_temp);
-    bind_reading({rate_code + 128, tr("Frequency"), tr("Hz"), rate_scale, 0, 7}, &rate_,
-                 ui->l_freq);
-    bind_reading({delay_bias_code + 128, tr("Delay bias"), tr("t"), 10, 1, 3}, &delay_bias_,
-                 ui->l_delay_bias);
-    bind_reading({width_bias_code + 128, tr("Width bias"), tr("t"), 10, 1, 3}, &width_bias_,
-                 ui->l_width_bias);
-    bind_reading({bias_voltage_code + 128, tr("Voltage bias"), tr("V"), 1000, 3, 1}, &bias_voltage_,
-                 ui->l_volt_bias);
-    bind_reading({width_sns_code + 128, tr("Width SNS"), tr("t"), 100, 2, 2}, &width_sns_,
-                 ui->l_width_sns);
-    bind_reading({sns_voltage_code + 128, tr("Voltage SNS"), tr("V"), 100, 2, 1}, &sns_voltage_,
-                 ui->l_volt);
+    bind_reading({"temperature", temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3},
+                 &temperature_, ui->l_temp);
+    bind_reading({"frequency", rate_code + 128, tr("Frequency"), tr("Hz"), rate_scale, 0, 7},
+                 &rate_, ui->l_freq);
+    bind_reading({"delay_bias", delay_bias_code + 128, tr("Delay bias"), tr("t"), 10, 1, 3},
+                 &delay_bias_, ui->l_delay_bias);
+    bind_reading({"width_bias", width_bias_code + 128, tr("Width bias"), tr("t"), 10, 1, 3},
+                 &width_bias_, ui->l_width_bias);
+    bind_reading({"voltage_bias", bias_voltage_code + 128, tr("Voltage bias"), tr("V"), 1000, 3, 1},
+                 &bias_voltage_, ui->l_volt_bias);
+    bind_reading({"width_sns", width_sns_code + 128, tr("Width SNS"), tr("t"), 100, 2, 2},
+                 &width_sns_, ui->l_width_sns);
+    bind_reading({"voltage_sns", sns_voltage_code + 128, tr("Voltage SNS"), tr("V"), 100, 2, 1},
+                 &sns_voltage_, ui->l_volt);
     // What the device reports under 162 is kept and observed, not shown.
-    bind_reading({monitor_code + 128, tr("Monitor"), {}, 10, 1}, &monitor_);
+    bind_reading({"monitor", monitor_code + 128, tr("Monitor"), {}, 10, 1}, &monitor_);
     reserve_text(ui->l_tec_state, tr("OFF"));
     // The poll cycle does not ask for the alarm word; a word the device reports is shown.
     bind_alarm(alarm_report, driver_alarm_texts(), {ui->l_alarm, ui->pb_alarm});
@@ -54,7 +54,9 @@ vtr_sns_panel::vtr_sns_panel(QWidget *parent) : panel_base(parent), ui(new Ui::v
     bind_setpoint(ui->dsb_width_bias, width_bias_code, 10);
     bind_setpoint(ui->dsb_delay_bias, delay_bias_code, 10);
     bind_setpoint(ui->dsb_pulse_width, width_sns_code, 100);
-    bind_setpoint(ui->dsb_freq, [this] { confirm_rate(); });
+    bind_setpoint(
+        ui->dsb_freq, [this] { confirm_rate(); }, QStringLiteral("frequency"), tr("Frequency"),
+        [this] { return ui->cb_freq_range->currentText(); });
     block_wheel(ui->cb_freq_range);
     finish_setup(ui->sns_widget);
 }

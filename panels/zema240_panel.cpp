@@ -13,8 +13,8 @@ zema240_panel::zema240_panel(QWidget *parent)
     form.mode = ui->mode;
     form.mode_label = ui->mode_label;
     setup_driver(form, plan);
-    bind_reading({168, tr("Outlet temperature"), tr("°C"), 10, 1, 3}, &outlet_temperature_,
-                 ui->l_temp_out);
+    bind_reading({"outlet_temperature", 168, tr("Outlet temperature"), tr("°C"), 10, 1, 3},
+                 &outlet_temperature_, ui->l_temp_out);
     bind_setpoint(ui->dsb_temp, temperature_code, 10);
     finish_setup(ui->zema_widget);
 }

@@ -42,14 +42,16 @@ void zema_driver_base::setup_driver(const widgets &form, const poll_plan &plan) 
 
     bind_emission(emission_code + 128, w_.power_state_label,
                   {w_.on_off_button, w_.start_stop_button_alt}, {emission_code});
-    bind_reading({current_code + 128, tr("Current"), tr("A"), current_units_, 2}, &current_,
-                 w_.current_ld_label);
-    bind_reading({temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3}, &temperature_,
-                 w_.temp_label);
-    bind_reading({input_voltage_code + 128, tr("Input voltage"), tr("V"), 10, 1, 3},
-                 &input_voltage_, w_.l_input_volt);
-    bind_reading({output_voltage_code + 128, tr("Output voltage"), tr("V"), 10, 1, 3},
-                 &output_voltage_, w_.l_output_volt);
+    bind_reading({"current", current_code + 128, tr("Current"), tr("A"), current_units_, 2},
+                 &current_, w_.current_ld_label);
+    bind_reading({"temperature", temperature_code + 128, tr("Temperature"), tr("°C"), 10, 1, 3},
+                 &temperature_, w_.temp_label);
+    bind_reading(
+        {"input_voltage", input_voltage_code + 128, tr("Input voltage"), tr("V"), 10, 1, 3},
+        &input_voltage_, w_.l_input_volt);
+    bind_reading(
+        {"output_voltage", output_voltage_code + 128, tr("Output voltage"), tr("V"), 10, 1, 3},
+        &output_voltage_, w_.l_output_volt);
     bind_alarm(alarm_code + 128, driver_alarm_texts(),
                {w_.l_alarm, w_.pb_alarm, w_.pb_alarm_clear});
     // The output power, from the two readings it is the product of.
@@ -59,10 +61,10 @@ void zema_driver_base::setup_driver(const widgets &form, const poll_plan &plan) 
     // Enter on the combo boxes asks, as on the set point, but sends nothing.
     bind_setpoint(w_.step_size_combo, std::function<void()>());
     if (w_.mode) {
-        bind_state(mode_code + 128, &mode_, tr("Mode"), [this](int mode) {
+        bind_state(mode_code + 128, &mode_, "mode", tr("Mode"), [this](int mode) {
             return mode_known() ? w_.mode->itemText(mode) : QString::number(mode);
         });
-        describe_command(mode_code, tr("Mode"), {}, 1);
+        describe_command(mode_code, "mode", tr("Mode"), {}, 1);
         QString widest;
         for (int i = 0; i < w_.mode->count(); ++i) {
             const QString text = w_.mode->itemText(i);

@@ -18,6 +18,7 @@ struct device_sample {
     double value = 0;  // in `unit`, as the panel shows it
     QString unit;
     QString text;  // as the panel shows it ("ON", a mode's name); empty for plain numbers
+    QString key;   // the quantity's stable identifier (panel_observation::key)
 };
 
 Q_DECLARE_METATYPE(device_sample)

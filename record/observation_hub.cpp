@@ -50,7 +50,7 @@ void observation_hub::attach(source &s) {
         s.panel.data(), &panel_base::sig_observed, this,
         [this, can_id = s.can_id, name = s.device, model = s.model](const panel_observation &o) {
             emit sig_sample(device_sample{now_(), can_id, name, model, o.kind, o.quantity, o.value,
-                                          o.unit, o.text});
+                                          o.unit, o.text, o.key});
         });
 }
 

@@ -638,6 +638,7 @@ bool trend_window::export_csv(const QString &path) const {
                                                  s.quantity,
                                                  p.value,
                                                  s.unit,
+                                                 {},
                                                  {}},
                                    times);
     }

@@ -22,6 +22,7 @@
 #include <QtDebug>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -160,24 +161,24 @@ void panel_base::bind_reading(const reading_spec &reading, double *field, QLabel
         if (label) {
             show_text(label, reading.text(*field));
         }
-        observe(panel_observation::reading, reading.quantity, *field, reading.unit);
+        observe(panel_observation::reading, reading.key, reading.quantity, *field, reading.unit);
     });
 }
 
-void panel_base::bind_state(int code, int *field, const QString &quantity,
+void panel_base::bind_state(int code, int *field, const QString &key, const QString &quantity,
                             std::function<QString(int)> text) {
-    bind_reply(code, [this, field, quantity, text](long value) {
+    bind_reply(code, [this, field, key, quantity, text](long value) {
         *field = static_cast<int>(value);
-        if (!quantity.isEmpty()) {
-            observe(panel_observation::state, quantity, *field, {},
+        if (!key.isEmpty()) {
+            observe(panel_observation::state, key, quantity, *field, {},
                     text ? text(*field) : QString());
         }
     });
 }
 
-void panel_base::describe_command(int code, const QString &quantity, const QString &unit,
-                                  double scale, double offset) {
-    command_names_.insert(code, command_name{quantity, unit, scale, offset});
+void panel_base::describe_command(int code, const QString &key, const QString &quantity,
+                                  const QString &unit, double scale, double offset) {
+    command_names_.insert(code, command_name{key, quantity, unit, scale, offset});
 }
 
 void panel_base::bind_reply(int code, std::function<void(long)> handler) {
@@ -185,10 +186,11 @@ void panel_base::bind_reply(int code, std::function<void(long)> handler) {
 }
 
 void panel_base::bind_switch(int report_code, bool *state, QLabel *state_label,
-                             QList<QAbstractButton *> switches, const QString &quantity,
-                             const QString &on_text, const QString &off_text) {
+                             QList<QAbstractButton *> switches, const QString &key,
+                             const QString &quantity, const QString &on_text,
+                             const QString &off_text) {
     bind_reply(report_code,
-               [this, state, state_label, switches, quantity, on_text, off_text](long value) {
+               [this, state, state_label, switches, key, quantity, on_text, off_text](long value) {
                    *state = value != 0;
                    if (state_label) {
                        show_text(state_label, *state ? on_text : off_text);
@@ -197,7 +199,7 @@ void panel_base::bind_switch(int report_code, bool *state, QLabel *state_label,
                    for (QAbstractButton *button : switches) {
                        button->setChecked(*state);
                    }
-                   observe(panel_observation::state, quantity, *state ? 1 : 0, {},
+                   observe(panel_observation::state, key, quantity, *state ? 1 : 0, {},
                            *state ? on_text : off_text);
                });
 }
@@ -205,11 +207,11 @@ void panel_base::bind_switch(int report_code, bool *state, QLabel *state_label,
 void panel_base::bind_emission(int report_code, QLabel *state_label,
                                QList<QAbstractButton *> switches, QVector<int> write_codes) {
     emission_write_codes_ = std::move(write_codes);
-    bind_switch(report_code, &emission_on_, state_label, std::move(switches), tr("Emission"),
-                tr("ON"), tr("OFF"));
+    bind_switch(report_code, &emission_on_, state_label, std::move(switches),
+                QStringLiteral("emission"), tr("Emission"), tr("ON"), tr("OFF"));
     bind_reply(report_code, [this](long) { emit send_emission(emission_on_ ? 1 : 0); });
     for (int code : emission_write_codes_) {
-        describe_command(code, tr("Emission"), {}, 1);
+        describe_command(code, QStringLiteral("emission"), tr("Emission"), {}, 1);
     }
 }
 
@@ -219,10 +221,10 @@ void panel_base::bind_tec(int write_code, int report_code, QCheckBox *box) {
     bind_reply(report_code, [this](long value) {
         tec_state_ = static_cast<int>(value);
         tec_box_->setChecked(tec_state_ != 0);
-        observe(panel_observation::state, tr("TEC"), tec_state_ != 0 ? 1 : 0, {},
-                tec_state_ != 0 ? tr("ON") : tr("OFF"));
+        observe(panel_observation::state, QStringLiteral("tec"), tr("TEC"), tec_state_ != 0 ? 1 : 0,
+                {}, tec_state_ != 0 ? tr("ON") : tr("OFF"));
     });
-    describe_command(write_code, tr("TEC"), {}, 1);
+    describe_command(write_code, QStringLiteral("tec"), tr("TEC"), {}, 1);
 }
 
 void panel_base::bind_alarm(int report_code, const QStringList &texts, QList<QWidget *> widgets,
@@ -230,7 +232,7 @@ void panel_base::bind_alarm(int report_code, const QStringList &texts, QList<QWi
     alarm_texts_ = texts;
     alarm_widgets_ = std::move(widgets);
     alarm_word_ = initial_word;
-    bind_state(report_code, &alarm_word_, tr("Alarm"),
+    bind_state(report_code, &alarm_word_, QStringLiteral("alarm"), tr("Alarm"),
                [this](int) { return alarm_text().join(QStringLiteral("; ")); });
 }
 
@@ -247,7 +249,8 @@ void panel_base::take_parameter_report(int code, long value) {
     for (parameter_record &record : parameters_) {
         if (record.code + 128 == code) {
             record.value = static_cast<double>(value) / scaling::pow10(record.decimals);
-            observe(panel_observation::parameter, record.label, record.value, {});
+            observe(panel_observation::parameter, QString::number(record.code), record.label,
+                    record.value, {});
         }
     }
 }
@@ -277,16 +280,17 @@ void panel_base::disconnectNotify(const QMetaMethod &signal) {
     }
 }
 
-void panel_base::observe(panel_observation::kind_t kind, const QString &quantity, double value,
-                         const QString &unit, const QString &text) {
+void panel_base::observe(panel_observation::kind_t kind, const QString &key,
+                         const QString &quantity, double value, const QString &unit,
+                         const QString &text) {
     if (!observed()) {
         return;
     }
-    panel_observation observation{kind, quantity, value, unit, text, true};
+    panel_observation observation{kind, quantity, value, unit, text, true, key};
     if (kind != panel_observation::setpoint) {
-        const auto last = last_observed_.constFind(quantity);
+        const auto last = last_observed_.constFind(key);
         observation.changed = last == last_observed_.constEnd() || *last != value;
-        last_observed_.insert(quantity, value);
+        last_observed_.insert(key, value);
     }
     emit sig_observed(observation);
 }
@@ -297,17 +301,18 @@ void panel_base::observe_sent(const panel_command &command) {
     }
     for (const parameter_record &record : qAsConst(parameters_)) {
         if (record.code == command.code) {
-            observe(panel_observation::setpoint, record.label,
+            observe(panel_observation::setpoint, QString::number(record.code), record.label,
                     command.value / scaling::pow10(record.decimals), {});
             return;
         }
     }
     const auto name = command_names_.constFind(command.code);
     if (name != command_names_.constEnd()) {
-        observe(panel_observation::setpoint, name->quantity,
+        observe(panel_observation::setpoint, name->key, name->quantity,
                 (command.value - name->offset) / name->scale, name->unit);
     } else {
-        observe(panel_observation::setpoint, tr("Command %1").arg(command.code), command.value, {});
+        observe(panel_observation::setpoint, QStringLiteral("command_%1").arg(command.code),
+                tr("Command %1").arg(command.code), command.value, {});
     }
 }
 
@@ -450,7 +455,11 @@ void panel_base::block_wheel(QWidget *widget) {
     }
 }
 
-void panel_base::bind_setpoint(QWidget *widget, std::function<void()> on_yes) {
+void panel_base::bind_setpoint(QWidget *widget, std::function<void()> on_yes, const QString &key,
+                               const QString &quantity, std::function<QString()> unit) {
+    if (!key.isEmpty() && on_yes) {
+        setpoint_names_.insert(widget, setpoint_name{key, quantity, std::move(unit)});
+    }
     setpoints_.insert(widget, std::move(on_yes));
     setpoint_order_.append(widget);
     block_wheel(widget);
@@ -461,20 +470,81 @@ void panel_base::bind_setpoint(QWidget *widget, std::function<void()> on_yes) {
 
 void panel_base::bind_setpoint(QDoubleSpinBox *spin, int code, double scale, QString *kept_text,
                                int text_decimals) {
-    bind_setpoint(spin, [this, spin, code, scale, kept_text, text_decimals] {
-        const double value = spin->value();
-        if (kept_text) {
-            *kept_text = QString::number(value, 'f', text_decimals);
-        }
-        queue_command(code, scaling::to_wire(value, scale));
-    });
     if (!command_names_.contains(code)) {
         for (const reading_spec &reading : qAsConst(readings_)) {
             if (reading.code == code + 128) {
-                describe_command(code, reading.quantity, reading.unit, scale);
+                describe_command(code, reading.key, reading.quantity, reading.unit, scale);
             }
         }
     }
+    const command_name name = command_names_.value(code);
+    bind_setpoint(
+        spin,
+        [this, spin, code, scale, kept_text, text_decimals] {
+            const double value = spin->value();
+            if (kept_text) {
+                *kept_text = QString::number(value, 'f', text_decimals);
+            }
+            queue_command(code, scaling::to_wire(value, scale));
+        },
+        name.key, name.quantity, [unit = name.unit] { return unit; });
+}
+
+QVector<panel_base::setpoint_spec> panel_base::setpoints() const {
+    QVector<setpoint_spec> specs;
+    for (QWidget *widget : setpoint_order_) {
+        const auto name = setpoint_names_.constFind(widget);
+        auto *spin = qobject_cast<QDoubleSpinBox *>(widget);
+        if (name == setpoint_names_.constEnd() || !spin) {
+            continue;
+        }
+        specs.append(setpoint_spec{name->key, spin->objectName(), name->quantity,
+                                   name->unit ? name->unit() : QString(), spin->minimum(),
+                                   spin->maximum(), spin->decimals()});
+    }
+    return specs;
+}
+
+std::optional<double> panel_base::setpoint_value(const QString &key) const {
+    for (auto name = setpoint_names_.constBegin(); name != setpoint_names_.constEnd(); ++name) {
+        if (name->key == key) {
+            if (auto *spin = qobject_cast<QDoubleSpinBox *>(name.key())) {
+                return spin->value();
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+panel_base::setpoint_result panel_base::write_setpoint(const QString &key, double value) {
+    for (QWidget *widget : qAsConst(setpoint_order_)) {
+        const auto name = setpoint_names_.constFind(widget);
+        auto *spin = qobject_cast<QDoubleSpinBox *>(widget);
+        if (name == setpoint_names_.constEnd() || name->key != key || !spin) {
+            continue;
+        }
+        if (!spin->isEnabled()) {
+            return setpoint_result::not_allowed;
+        }
+        // The spin box keeps what it shows to its decimals, as it does with typed text; the limits
+        // are checked on that value, as the spin box would clamp it.
+        const double shown = QString::number(value, 'f', spin->decimals()).toDouble();
+        if (!std::isfinite(value) || shown < spin->minimum() || shown > spin->maximum()) {
+            return setpoint_result::out_of_range;
+        }
+        spin->setValue(shown);
+        setpoints_.value(widget)();
+        return setpoint_result::queued;
+    }
+    return setpoint_result::unknown_key;
+}
+
+bool panel_base::request_emission(bool on) {
+    if (!has_emission()) {
+        return false;
+    }
+    emission_switch_clicked(on);
+    return true;
 }
 
 bool panel_base::eventFilter(QObject *watched, QEvent *event) {

@@ -14,6 +14,7 @@
 
 #include <atomic>
 #include <functional>
+#include <optional>
 
 class QAbstractButton;
 class QCheckBox;
@@ -81,6 +82,32 @@ public:
     // Every reading the panel shows, as described by its constructor.
     const QVector<reading_spec> &readings() const { return readings_; }
 
+    // --- Set-points and emission for callers without widgets (scripts, restores) -----------------
+    // A set-point the operator can send with Enter, named by a stable key.
+    struct setpoint_spec {
+        QString key;       // e.g. "current", "temperature", "frequency"
+        QString widget;    // object name of the widget the operator types into
+        QString quantity;  // as the panel names it
+        QString unit;      // the unit the value is given in (the widget's at the moment)
+        double minimum = 0;
+        double maximum = 0;
+        int decimals = 0;
+    };
+    // The keyed set-points, in binding order (disabled ones included).
+    QVector<setpoint_spec> setpoints() const;
+    enum class setpoint_result { queued, unknown_key, out_of_range, not_allowed };
+    // Sends `value` as the operator would by typing it into the set-point widget named `key` and
+    // confirming with Yes: the widget's limits and decimals apply, then the same code, scale and
+    // truncation. Nothing is queued unless the result is `queued`; a disabled widget is
+    // `not_allowed`, a value outside the widget's limits `out_of_range`.
+    setpoint_result write_setpoint(const QString &key, double value);
+    // The value the set-point widget named `key` holds; none for an unknown key.
+    std::optional<double> setpoint_value(const QString &key) const;
+    // Whether the panel has an emission switch; request_emission() clicks it as the operator
+    // would (false when there is none).
+    bool has_emission() const { return !emission_write_codes_.isEmpty(); }
+    bool request_emission(bool on);
+
     // The note shown in the configuration dialog unless the panel gives its own: how to reach a
     // device for changing its CAN id.
     static QString usb_can_id_hint();
@@ -128,13 +155,13 @@ protected:
     void bind_reading(const reading_spec &reading, double *field, QLabel *label = nullptr);
     // Reply `code` stores the value as it is; a named state is also observed, shown as
     // `text(value)` when that is given.
-    void bind_state(int code, int *field, const QString &quantity = {},
+    void bind_state(int code, int *field, const QString &key = {}, const QString &quantity = {},
                     std::function<QString(int)> text = {});
     // Names what a write command sets, for observers: (value on the wire - offset) / scale, in
     // `unit`. Set-points bound with a code and scale are described from the reading reported
     // under code + 128 when there is one.
-    void describe_command(int code, const QString &quantity, const QString &unit, double scale,
-                          double offset = 0);
+    void describe_command(int code, const QString &key, const QString &quantity,
+                          const QString &unit, double scale, double offset = 0);
     // Reply `code` runs `handler` (after the stored fields of the same code).
     void bind_reply(int code, std::function<void(long)> handler);
 
@@ -142,7 +169,7 @@ protected:
     // or `off_text` and checks the `switches` without sending. What a switch click sends is the
     // panel's own.
     void bind_switch(int report_code, bool *state, QLabel *state_label,
-                     QList<QAbstractButton *> switches, const QString &quantity,
+                     QList<QAbstractButton *> switches, const QString &key, const QString &quantity,
                      const QString &on_text, const QString &off_text);
     // Emission: an on/off state (bind_switch, "ON"/"OFF") that also emits send_emission(); a
     // switch click queues (code, on) for each of `write_codes` in order.
@@ -158,8 +185,10 @@ protected:
 
     // Return/Enter on `widget` asks "Send command on <name>?"; on Yes `on_yes` runs (empty: the
     // box is asked and nothing is sent). A disabled widget asks nothing. Wheel events on `widget`
-    // are swallowed.
-    void bind_setpoint(QWidget *widget, std::function<void()> on_yes);
+    // are swallowed. A double spin box given a `key` can also be sent by write_setpoint(); `unit`
+    // tells what its value is in at the moment.
+    void bind_setpoint(QWidget *widget, std::function<void()> on_yes, const QString &key = {},
+                       const QString &quantity = {}, std::function<QString()> unit = {});
     // The common case: on Yes queue (code, value × scale) and keep the value's text with
     // `text_decimals` decimals in `kept_text` (when given).
     void bind_setpoint(QDoubleSpinBox *spin, int code, double scale, QString *kept_text = nullptr,
@@ -221,6 +250,7 @@ protected:
 
 private:
     struct command_name {
+        QString key;
         QString quantity;
         QString unit;
         double scale = 1;
@@ -234,8 +264,8 @@ private:
     bool observed() const;
     void connectNotify(const QMetaMethod &signal) override;
     void disconnectNotify(const QMetaMethod &signal) override;
-    void observe(panel_observation::kind_t kind, const QString &quantity, double value,
-                 const QString &unit, const QString &text = {});
+    void observe(panel_observation::kind_t kind, const QString &key, const QString &quantity,
+                 double value, const QString &unit, const QString &text = {});
     void observe_sent(const panel_command &command);
 
     mutable std::atomic<int> observed_state_{-1};  // -1: ask Qt, else 0 or 1
@@ -253,7 +283,7 @@ private:
     QHash<int, QVector<std::function<void(long)>>> reply_handlers_;  // in binding order
     QVector<reading_spec> readings_;
     QHash<int, command_name> command_names_;
-    QHash<QString, double> last_observed_;  // by quantity
+    QHash<QString, double> last_observed_;  // by key
 
     QVector<int> emission_write_codes_;
     bool emission_on_ = false;
@@ -267,6 +297,12 @@ private:
     int alarm_word_ = 0;
 
     QHash<QWidget *, std::function<void()>> setpoints_;
+    struct setpoint_name {
+        QString key;
+        QString quantity;
+        std::function<QString()> unit;
+    };
+    QHash<QWidget *, setpoint_name> setpoint_names_;
     QList<QWidget *> setpoint_order_;
     QList<QWidget *> watched_;
 

@@ -6,6 +6,9 @@
 // A quantity that a panel shows, described once: how the device reports it and how the operator
 // reads it. The same description drives the panel's value label, the recorder and the trend window.
 struct reading_spec {
+    // Stable, untranslated, lower-case identifier of the quantity ("current", "temperature"):
+    // what scripts, the broker and settings files name it by, whatever the interface language.
+    QString key;
     int code = 0;        // report code (the quantity's write code + 128)
     QString quantity;    // what it is, e.g. "Current"
     QString unit;        // unit shown after the value, e.g. "mA"; empty for plain numbers
@@ -34,6 +37,7 @@ struct panel_observation {
     QString unit;
     QString text;         // as the panel shows it ("ON", a mode's name); empty for plain numbers
     bool changed = true;  // differs from the previous observation of the same quantity
+    QString key;          // stable identifier (reading_spec::key); a parameter's is its write code
 };
 
 Q_DECLARE_METATYPE(panel_observation)

@@ -10,6 +10,10 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <cmath>
 
 using namespace panel_test;
 
@@ -165,6 +169,52 @@ private slots:
         QCOMPARE(sent[1], sent[0]);
         // Polling resumes where it was.
         QCOMPARE(text_of(sent.mid(2)), text_of(run_ticks(*twin, 3)));
+    }
+
+    // A set-point written by key (scripts, restores) queues exactly what the operator's Enter and
+    // Yes on the same widget queue; a value outside the widget's limits or an unknown key queues
+    // nothing. Keys are stable identifiers, unique within the panel.
+    void keyed_setpoints_send_as_the_operator_does_data() { add_panel_types(); }
+    void keyed_setpoints_send_as_the_operator_does() {
+        QFETCH(int, type);
+        auto panel = make_panel(type);
+        auto twin = make_panel(type);
+        const QRegularExpression key_form(QStringLiteral("^[a-z][a-z0-9_]*$"));
+        QSet<QString> keys;
+        for (const reading_spec &reading : panel->readings()) {
+            QVERIFY2(key_form.match(reading.key).hasMatch(), qPrintable(reading.quantity));
+        }
+        for (const panel_base::setpoint_spec &spec : panel->setpoints()) {
+            QVERIFY2(key_form.match(spec.key).hasMatch(), qPrintable(spec.widget));
+            QVERIFY2(!keys.contains(spec.key), qPrintable(spec.key));
+            keys.insert(spec.key);
+            auto *spin = twin->findChild<QDoubleSpinBox *>(spec.widget);
+            QVERIFY2(
+                spin && spin->isEnabled() == panel->findChild<QWidget *>(spec.widget)->isEnabled(),
+                qPrintable(spec.widget));
+            if (!spin->isEnabled()) {
+                QCOMPARE(panel->write_setpoint(spec.key, spec.minimum),
+                         panel_base::setpoint_result::not_allowed);
+                continue;
+            }
+            QCOMPARE(panel->write_setpoint(spec.key, spec.maximum + 1),
+                     panel_base::setpoint_result::out_of_range);
+            QCOMPARE(panel->queued_commands(), 0);
+            // A value with more decimals than the widget shows, inside its limits.
+            const double value = spec.minimum + (spec.maximum - spec.minimum) * 0.3719;
+            QCOMPARE(panel->write_setpoint(spec.key, value), panel_base::setpoint_result::queued);
+            // The widget took the value as typed text would be taken (its decimals, its grid).
+            const double taken = *panel->setpoint_value(spec.key);
+            QVERIFY2(std::abs(taken - value) <= 0.1 + std::pow(10, -spec.decimals),
+                     qPrintable(spec.key));
+            spin->setValue(taken);
+            boxes->expect(QStringLiteral("Conformation"), QMessageBox::Yes);
+            QTest::keyClick(spin, Qt::Key_Return);
+            QCOMPARE(text_of(run_ticks(*panel, 1)), text_of(run_ticks(*twin, 1)));
+        }
+        QCOMPARE(panel->write_setpoint(QStringLiteral("no_such_key"), 1),
+                 panel_base::setpoint_result::unknown_key);
+        QCOMPARE(panel->queued_commands(), 0);
     }
 
     void answering_no_sends_nothing_data() { add_panel_types(); }
