@@ -46,6 +46,8 @@ comb_laser::comb_laser(QWidget *parent)
                 tr("Bias"), tr("On"), tr("Off"));
     describe_command(bias_switch_code, "bias", tr("Bias"), {}, 1);
     bind_setpoint(ui->dsb_bias, bias_voltage_code, -100);
+    // A value changed in the configuration dialog is sent by "Write" only.
+    set_live_change(false);
 
     apply_style(ui->pb_on_off_bias, panel_style::body_switch());
     finish_setup(ui->device_widget);

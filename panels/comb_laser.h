@@ -12,7 +12,7 @@ class comb_laser;
 // panels have it but without a constant-power mode, plus a reverse bias section (bias on/off, bias
 // voltage, reported bias current) and the reported TEC current. The bias voltage is negative on
 // the wire both ways and shown as a positive magnitude; the TEC current is reported in mA offset
-// by 2500.
+// by 2500. The configuration dialog sends only on "Write".
 class comb_laser : public cw_driver_base {
     Q_OBJECT
 public:

@@ -109,7 +109,7 @@ void cw_driver_base::refresh_display() {
     show_indicator(w_.tem_indicator, temperature_, parameter_value(limits_.temperature_min),
                    parameter_value(limits_.temperature_max));
 
-    if (mode_ >= 0 && mode_ < w_.mode->count()) {
+    if (mode_ != -1) {
         show_text(w_.mode_label, mode_text(mode_));
     }
 }
@@ -131,10 +131,12 @@ bool cw_driver_base::load_setpoints() {
     } else {
         complete = false;
     }
-    if (mode_ >= 0 && mode_ < w_.mode->count()) {
-        w_.mode->setCurrentIndex(mode_);
-    } else {
+    // A reported mode that the combo has no item for is known all the same (the label shows its
+    // number); the combo then keeps the item it shows.
+    if (mode_ == -1) {
         complete = false;
+    } else if (mode_ >= 0 && mode_ < w_.mode->count()) {
+        w_.mode->setCurrentIndex(mode_);
     }
     return complete;
 }

@@ -30,6 +30,9 @@ heater::heater(QWidget *parent) : panel_base(parent), ui(new Ui::heater) {
                  &temperature_, ui->l_temp);
     bind_setpoint(ui->dsb_temp, temperature_code, 10);
     set_store_commands({});
+    // A value changed in the configuration dialog is sent by "Write" only: a CAN ID written at
+    // every arrow click would move the heater to another address on the way.
+    set_live_change(false);
 
     finish_setup(ui->device_widget);
 }

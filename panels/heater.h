@@ -10,8 +10,8 @@ class heater;
 
 // Panel of the heater accessory (device type 4): the heater switched on and off, one temperature
 // set-point and the reported temperature. Both switches send the opposite of the state the heater
-// last reported, whatever they show when clicked, and the configuration's "Write" is not followed
-// by a store command.
+// last reported, whatever they show when clicked. The configuration dialog sends only on "Write",
+// which is not followed by a store command.
 class heater : public panel_base {
     Q_OBJECT
 public:

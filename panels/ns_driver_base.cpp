@@ -11,6 +11,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 namespace {
@@ -211,17 +212,18 @@ void ns_driver_base::confirm_rate() {
 // --- Display ----------------------------------------------------------------------------------
 
 QString ns_driver_base::frequency_text(double hz) {
+    // Whole Hz and whole kHz are the integer part, not the nearest: 999 999 Hz is "999 kHz".
     if (hz < 1000) {
-        return QString::number(hz, 'f', 0) + tr(" Hz");
+        return QString::number(std::trunc(hz), 'f', 0) + tr(" Hz");
     }
     if (hz < 1000000) {
-        return QString::number(hz / 1000, 'f', 0) + tr(" kHz");
+        return QString::number(std::trunc(hz / 1000), 'f', 0) + tr(" kHz");
     }
     return QString::number(hz / 1000000, 'f', 1) + tr(" MHz");
 }
 
 int ns_driver_base::reported_mode() const {
-    const bool burst = cut_ > 0;
+    const bool burst = in_burst();
     switch (source_) {
         case internal:
             return burst ? int_burst : int_normal;
@@ -320,12 +322,13 @@ void ns_driver_base::refresh_display() {
     if (rate_ != -1.0) {
         show_text(w_.l_freq, frequency_text(rate_));
     }
+    // A trigger source without a mode of its own has no text: the label keeps what it shows.
     const int mode = reported_mode();
     if (mode >= 0) {
         show_text(w_.l_mode, mode_names().at(mode));
     }
     w_.cb_mode->setEnabled(!emission_on());
-    const bool burst = cut_ > 0;
+    const bool burst = in_burst();
     w_.dsb_gated_count->setEnabled(burst);
     w_.dsb_cutted_count->setEnabled(burst);
     const bool triggered = source_ != on_demand;
@@ -346,14 +349,17 @@ bool ns_driver_base::load_setpoints() {
     complete &= load(w_.dsb_temp, temperature_);
     complete &= load(w_.dsb_cutted_count, cut_);
     complete &= load(w_.dsb_gated_count, gated_);
-    complete &= load(w_.dsb_dura, duration_);
+    // The duration is not loaded: through its 0.2 ns grid a reported 10.5 ns would become 10.6,
+    // and Enter would then send what the device never had.
     if (bias_.spin) {
         complete &= load(bias_.spin, bias_reading_);
     }
+    // A trigger source without a mode of its own is known all the same; the combo then keeps the
+    // item it shows.
     const int mode = reported_mode();
     if (mode >= 0) {
         w_.cb_mode->setCurrentIndex(mode);
-    } else {
+    } else if (source_ == -1) {
         complete = false;
     }
     if (rate_ != -1.0) {

@@ -129,8 +129,11 @@ public:
     static QStringList mode_names();
     // The eleven rows of the current-driven members, in the order of their dialog.
     static parameter_list current_driver_parameters();
-    // The mode the device is in, from its trigger source and cut count; -1 while unknown.
+    // The mode the device is in, from its trigger source and cut count; -1 while the source is
+    // unknown or names no mode.
     int reported_mode() const;
+    // Burst while the cut count is non-zero; a count not yet reported (-1) counts as burst too.
+    bool in_burst() const { return cut_ != 0; }
     // Frequency as the state block shows it: Hz, kHz or MHz by magnitude.
     static QString frequency_text(double hz);
 

@@ -120,11 +120,13 @@ bool pulse_picker::load_setpoints() {
     load(ui->dsb_divider, divider_);
     load(ui->dsb_gate, gated_);
     load(ui->dsb_cut, cut_);
+    // A reported mode that the combo has no item for is known all the same (the label shows its
+    // number); the combo then keeps the item it shows.
     const int item = swap_open_close(mode_);
-    if (item >= 0 && item < ui->mode->count()) {
-        ui->mode->setCurrentIndex(item);
-    } else {
+    if (mode_ == -1) {
         complete = false;
+    } else if (item >= 0 && item < ui->mode->count()) {
+        ui->mode->setCurrentIndex(item);
     }
     return complete;
 }

@@ -54,16 +54,15 @@ void zema_driver_base::setup_driver(const widgets &form, const poll_plan &plan) 
         &output_voltage_, w_.l_output_volt);
     bind_alarm(alarm_code + 128, driver_alarm_texts(),
                {w_.l_alarm, w_.pb_alarm, w_.pb_alarm_clear});
-    // The output power, from the two readings it is the product of.
-    reserve_text(w_.power_label, QStringLiteral("88888.8 ") + tr("W"));
+    // `power_label` keeps the form's text: the devices report no power, and a figure worked out
+    // from other readings is not shown where a reading would be.
 
     bind_setpoint(w_.spin, current_code, current_units_, &current_text_, 1);
     // Enter on the combo boxes asks, as on the set point, but sends nothing.
     bind_setpoint(w_.step_size_combo, std::function<void()>());
     if (w_.mode) {
-        bind_state(mode_code + 128, &mode_, "mode", tr("Mode"), [this](int mode) {
-            return mode_known() ? w_.mode->itemText(mode) : QString::number(mode);
-        });
+        bind_state(mode_code + 128, &mode_, "mode", tr("Mode"),
+                   [this](int mode) { return mode_text(mode); });
         describe_command(mode_code, "mode", tr("Mode"), {}, 1);
         QString widest;
         for (int i = 0; i < w_.mode->count(); ++i) {
@@ -105,8 +104,12 @@ void zema_driver_base::on_pb_alarm_clicked() {
     show_alarm_details();
 }
 
-bool zema_driver_base::mode_known() const {
-    return w_.mode && mode_ >= 0 && mode_ < w_.mode->count();
+bool zema_driver_base::has_mode_item(int mode) const {
+    return w_.mode && mode >= 0 && mode < w_.mode->count();
+}
+
+QString zema_driver_base::mode_text(int mode) const {
+    return has_mode_item(mode) ? w_.mode->itemText(mode) : QString::number(mode);
 }
 
 void zema_driver_base::refresh_display() {
@@ -121,12 +124,8 @@ void zema_driver_base::refresh_display() {
     show_indicator(w_.indicator, current_, 0.0, is_known(max) ? max - min_current : max);
     show_indicator(w_.tem_indicator, temperature_, 0.0, temperature_full_scale);
 
-    if (output_voltage_ != -1.0 && current_ != -1.0) {
-        show_text(w_.power_label,
-                  QString::number(output_voltage_ * current_, 'f', 1) + QLatin1Char(' ') + tr("W"));
-    }
-    if (mode_known()) {
-        show_text(w_.mode_label, w_.mode->itemText(mode_));
+    if (w_.mode_label && mode_ != -1) {
+        show_text(w_.mode_label, mode_text(mode_));
     }
 }
 
@@ -137,11 +136,13 @@ bool zema_driver_base::load_setpoints() {
     } else {
         complete = false;
     }
+    // A reported mode that the combo has no item for is known all the same (the label shows its
+    // number); the combo then keeps the item it shows.
     if (w_.mode) {
-        if (mode_known()) {
-            w_.mode->setCurrentIndex(mode_);
-        } else {
+        if (mode_ == -1) {
             complete = false;
+        } else if (has_mode_item(mode_)) {
+            w_.mode->setCurrentIndex(mode_);
         }
     }
     return complete;

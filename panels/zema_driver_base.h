@@ -54,7 +54,6 @@ public:
         QLabel *l_input_volt = nullptr;
         QLabel *l_output_volt = nullptr;
         QLabel *temp_label = nullptr;
-        QLabel *power_label = nullptr;
         QLabel *mode_label = nullptr;
         QLabel *l_alarm = nullptr;
         QPushButton *pb_alarm = nullptr;
@@ -80,7 +79,6 @@ public:
         form.l_input_volt = ui->l_input_volt;
         form.l_output_volt = ui->l_output_volt;
         form.temp_label = ui->temp_label;
-        form.power_label = ui->power_label;
         form.l_alarm = ui->l_alarm;
         form.pb_alarm = ui->pb_alarm;
         form.pb_alarm_clear = ui->pb_alarm_clear;
@@ -117,7 +115,10 @@ protected:
     QString header_summary() const override;
 
 private:
-    bool mode_known() const;
+    // Whether the mode combo has an item for `mode`.
+    bool has_mode_item(int mode) const;
+    // What the mode label shows for `mode`: its item's text, or the number where there is none.
+    QString mode_text(int mode) const;
 
     widgets w_;
     double current_units_;

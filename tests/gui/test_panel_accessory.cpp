@@ -32,6 +32,8 @@ private slots:
             "sent=(33,0) (33,0);l_onoff.text=ON;on_off_button.checked=true");
         row("heater on may be configured; Write stores nothing", 4, "rows 161=1 write",
             "toolButton.enabled=true;sent=(81,7) (209,0) (161,0)");
+        row("heater dialog sends on Write only", 4, "rows up:0 write",
+            "sent=(81,8) (209,0) (161,0)");
         row("heater set-point", 4, "type:dsb_temp=87.4 yes ret:dsb_temp", "sent=(18,874)");
         row("heater negative temperature", 4, "146=-15", "l_temp.text=-1.5 °C");
         row("heater header", 4, "161=1 146=874 click:laser_tab_button",
@@ -60,6 +62,9 @@ private slots:
         row("picker full level", 5, "145=0", "l_amp.text=100.0 %;i_level.value=100");
         row("picker counts, share of 65000", 5, "146=6500 148=650",
             "l_div.text=6500;i_divider.value=10;l_cut.text=650;i_cut.value=1");
+        row("picker mode without an item: typed divider kept", 5,
+            "rows 144=7 145=0 146=5 147=0 148=0 type:dsb_divider=9 146=6 yes ret:dsb_divider",
+            "sent=(18,9);l_mode.text=7");
         row("picker rate", 5, "149=1234567", "l_freq.text=1234.567 kHz");
 
         row("comb cycle", 17, "rows",
@@ -73,6 +78,10 @@ private slots:
         row("comb negative readings", 17, "152=-250 153=-42 146=-50 160=1",
             "l_bias_voltage.text=2.50 V;l_bias_current.text=-4.2 mA;temp_label.text=-5.0 °C;"
             "l_bias_state.text=On;pb_on_off_bias.checked=true");
+        row("comb dialog sends on Write only", 17, "rows up:0", "sent=(144,0)");
+        row("comb mode without an item: typed current kept", 17,
+            "rows 164=3 145=1234 146=251 152=-250 type:spin=200 145=1240 146=252 yes ret:spin",
+            "sent=(17,2000);mode_label.text=3");
         row("comb TEC current -2.5 A", 17, "180=0", "l_tec_current.text=-2.50 A");
         row("comb limits by its own positions, first sync with the bias", 17,
             "rows 164=3 145=1234 146=251 152=-250",

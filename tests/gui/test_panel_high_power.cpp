@@ -72,11 +72,11 @@ private slots:
             "sent=(144,0);" + header + none);
         // Value labels, limits, bars and the set points loaded once every row is known: the set
         // point runs from 0.1 A to the maximum row, the current bar from 0 to the maximum less
-        // 0.1 A, the temperature bar to 35 °C; power = U out × I. The alarm widgets show while the
-        // word is non-zero.
+        // 0.1 A, the temperature bar to 35 °C; the power label keeps the form's text (no power is
+        // reported). The alarm widgets show while the word is non-zero.
         row("18 display", 18, reports(5000, 175, 3, 0, 1, 0x0101) + " ok click:pb_alarm",
             "power_state_label.text=ON;current_ld_label.text=50.00 A;temp_label.text=17.5 °C;"
-            "l_input_volt.text=48.0 V;l_output_volt.text=10.0 V;power_label.text=500.0 W;"
+            "l_input_volt.text=48.0 V;l_output_volt.text=10.0 V;power_label.text=0.0 V;"
             "mode_label.text=Ext. TTL+ Analog;" +
                 limits +
                 "indicator.value=50;tem_indicator.value=50;spin.value=50;mode.currentIndex=3;"
@@ -85,7 +85,7 @@ private slots:
                 "\nSOLUTION: increase the input voltage\n");
         row("25 display, mA, bar truncated", 25, reports(50000, 349, 0, 291, 0, 0),
             "power_state_label.text=OFF;current_ld_label.text=50.00 A;temp_label.text=34.9 °C;"
-            "l_input_volt.text=48.0 V;l_output_volt.text=31.2 V;power_label.text=1560.0 W;"
+            "l_input_volt.text=48.0 V;l_output_volt.text=31.2 V;power_label.text=0.0 V;"
             "mode_label.text=Const.Current;l_temp_out.text=29.1 °C;" +
                 limits +
                 "indicator.value=50;tem_indicator.value=99;spin.value=50;mode.currentIndex=0;"
@@ -94,12 +94,15 @@ private slots:
         row("27 display below the scale, bit 12 unnamed", 27,
             reports(1201, -15, 0, 0, 1, 0x1200) + " ok click:pb_alarm",
             "power_state_label.text=ON;current_ld_label.text=12.01 A;temp_label.text=-1.5 °C;"
-            "power_label.text=120.1 W;" +
+            "power_label.text=0.0 V;" +
                 limits +
                 "indicator.value=12;tem_indicator.value=0;spin.value=12.01;mode.exists=false;"
                 "dsb_temp.exists=false;l_alarm.hidden=false;box=Output power is close to MAX\n");
         row("18 set point loaded once", 18, reports(5000, 175, 3, 0, 1, 0) + " 145=7",
             "spin.value=50");
+        row("18 mode without an item: typed set point kept", 18,
+            reports(5000, 175, 7, 0, 0, 0) + " type:spin=20 145=6000 yes ret:spin",
+            "sent=(17,2000);mode_label.text=7;mode.currentIndex=0");
         row("18 Clear sends its pair twice", 18,
             reports(5000, 175, 3, 0, 1, 1) + " click:pb_alarm_clear", "sent=(41,1) (41,1)");
     }

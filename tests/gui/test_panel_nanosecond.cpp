@@ -156,9 +156,14 @@ private slots:
         row("Hz", 23, "rows 153=999", "l_freq.text=999 Hz");
         row("kHz", 23, "rows 153=12000", "l_freq.text=12 kHz");
         row("MHz", 23, "rows 153=2500000", "l_freq.text=2.5 MHz");
+        row("1500 Hz, whole kHz", 23, "rows 153=1500", "l_freq.text=1 kHz");
+        row("999999 Hz, whole kHz", 29, "rows 153=999999", "l_freq.text=999 kHz");
         row("duration", 23, "rows 163=105", "l_dura.text=10.5 ns");
         row("Ext: Burst", 23, "rows 164=2 181=3", "l_mode.text=Ext: Burst");
         row("Int: Normal", 23, "rows 181=0 164=0", "l_mode.text=Int: Normal");
+        row("cut count not reported is burst", 23, "rows 164=0",
+            "l_mode.text=Int: Burst;dsb_gated_count.enabled=true;dsb_cutted_count.enabled=true");
+        row("sync mode, cut count not reported", 29, "rows 164=0", "cb_sync_mode.enabled=false");
         row("on demand", 19, "rows 181=1 164=1", "l_mode.text=Pulse on Demand");
         row("bias", 19, "rows 185=500", "l_bias.text=50.0 mA");
         row("sync delay", 29, "rows 200=-12", "l_sync_delay.text=-1.2 ns");
@@ -206,6 +211,11 @@ private slots:
         row("sync in Ext: Normal", 29, "rows 164=2 181=0", "cb_sync_mode.enabled=false");
         row("sync on demand", 29, "rows 164=1 181=0", "cb_sync_mode.enabled=true");
         row("sync, emission on", 29, "rows 164=0 181=0 160=1", "cb_sync_mode.enabled=false");
+        row("first sync leaves the duration", 23, "rows 163=105", "dsb_dura.value=1");
+        row("first sync with a source without a mode", 23,
+            "rows 152=100 146=200 153=1000 180=1 181=0 164=5 type:dsb_curr=2 152=300 yes "
+            "ret:dsb_curr",
+            "sent=(24,200)");
         row("first sync, Hz", 23, "rows 153=500",
             "dsb_freq.value=500;cb_freq_range.currentIndex=0");
         row("first sync, kHz", 29, "rows 153=12000",

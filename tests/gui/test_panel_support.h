@@ -12,6 +12,7 @@
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -181,9 +182,10 @@ void report_parameters(panel_base &panel, Raw raw) {
 // Runs an operator and device script on `panel`, steps separated by spaces: "CODE=VALUE" a report;
 // "rows" every configuration row, raw values from `raw` by code; "fill" the rows and every polled
 // code the script does not give (as 0), so that the first fill runs; "yes", "no", "ok" answer the
-// next box; "ret:W" Return on W; "click:W"; "type:W=TEXT" types TEXT into W; "write" the
-// configuration dialog's "Write"; "W=V" picks item V of a combo box as the operator does, or sets
-// a spin box; "W.PROPERTY=V" sets a property.
+// next box; "ret:W" Return on W; "click:W"; "type:W=TEXT" types TEXT into W; "up:N" the up arrow
+// on row N of the configuration dialog; "write" the dialog's "Write" (both open the dialog unless
+// it is open); "W=V" picks item V of a combo box as the operator does, or sets a spin box;
+// "W.PROPERTY=V" sets a property.
 inline void run_script(panel_base &panel, box_answerer &boxes, const QString &script,
                        const QMap<int, long> &raw) {
     const QMap<QString, QMessageBox::StandardButton> answers{
@@ -208,9 +210,16 @@ inline void run_script(panel_base &panel, box_answerer &boxes, const QString &sc
             QTest::keyClick(child<QWidget>(panel, name), Qt::Key_Return);
         } else if (step.startsWith(QLatin1String("click:"))) {
             child<QAbstractButton>(panel, name)->click();
-        } else if (step == QLatin1String("write")) {
-            panel.on_toolButton_clicked();
-            panel.configuration_dialog()->write_button()->click();
+        } else if (step == QLatin1String("write") || step.startsWith(QLatin1String("up:"))) {
+            if (!panel.configuration_dialog()) {
+                panel.on_toolButton_clicked();
+            }
+            config_dialog *dialog = panel.configuration_dialog();
+            if (step == QLatin1String("write")) {
+                dialog->write_button()->click();
+            } else {
+                QTest::keyClick(dialog->spin_boxes().at(name.toInt()), Qt::Key_Up);
+            }
         } else if (step.startsWith(QLatin1String("type:"))) {
             auto *spin = child<QAbstractSpinBox>(panel, name);
             spin->clear();
