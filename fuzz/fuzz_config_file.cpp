@@ -20,8 +20,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     // A new name each time: the settings machinery keeps files it has read and would not read a
     // same-sized file rewritten within the same moment again.
     static int run = 0;
-    const QString path = QDir::temp().filePath(
-        QStringLiteral("lumivox-fuzz-%1-%2.ini").arg(QCoreApplication::applicationPid()).arg(++run));
+    const QString path = QDir::temp().filePath(QStringLiteral("lumivox-fuzz-%1-%2.ini")
+                                                   .arg(QCoreApplication::applicationPid())
+                                                   .arg(++run));
     {
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) ||

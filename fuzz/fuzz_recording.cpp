@@ -13,9 +13,10 @@
 namespace {
 
 bool same_sample(const device_sample &a, const device_sample &b) {
-    const bool same_value = std::isfinite(a.value)
-                                ? std::abs(a.value - b.value) <= 1e-9 * std::max(1.0, std::abs(a.value))
-                                : !std::isfinite(b.value);
+    // Values are written with 12 significant digits.
+    const double tolerance = 1e-9 * std::max(1.0, std::abs(a.value));
+    const bool same_value =
+        std::isfinite(a.value) ? std::abs(a.value - b.value) <= tolerance : !std::isfinite(b.value);
     return a.ms == b.ms && a.can_id == b.can_id && a.kind == b.kind && a.device == b.device &&
            a.model == b.model && a.quantity == b.quantity && a.unit == b.unit && a.text == b.text &&
            same_value;
@@ -68,8 +69,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         const double from = s.times.first(), to = s.times.last();
         for (const int columns : {1, 7}) {
             const QVector<QPointF> points = trend_store::visible_points(s, from, to, columns);
-            if (points.isEmpty() || points.size() > 4 * columns + 2 ||
-                points.first().x() < from || points.last().x() > to) {
+            if (points.isEmpty() || points.size() > 4 * columns + 2 || points.first().x() < from ||
+                points.last().x() > to) {
                 std::abort();
             }
         }

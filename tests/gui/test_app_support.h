@@ -65,10 +65,10 @@ W *widget(const main_window &window, const char *name) {
     if (W *found = window.findChild<W *>(QString::fromLatin1(name))) {
         return found;
     }
-    QTest::qFail(qPrintable(QStringLiteral("the window has no %1 called %2")
-                                .arg(QLatin1String(W::staticMetaObject.className()),
-                                     QLatin1String(name))),
-                 __FILE__, __LINE__);
+    QTest::qFail(
+        qPrintable(QStringLiteral("the window has no %1 called %2")
+                       .arg(QLatin1String(W::staticMetaObject.className()), QLatin1String(name))),
+        __FILE__, __LINE__);
     auto *stand_in = new W(const_cast<main_window *>(&window));
     stand_in->setObjectName(QString::fromLatin1(name));
     stand_in->hide();

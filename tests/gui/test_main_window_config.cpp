@@ -249,7 +249,8 @@ private slots:
         QMap<QString, QByteArray> earlier;  // under the names of this second and the next two
         const QDateTime now = QDateTime::currentDateTime();
         for (int s = 0; s < 3; ++s) {
-            const QString name = "config.ini.unreadable-" + now.addSecs(s).toString("yyyyMMdd-HHmmss");
+            const QString name =
+                "config.ini.unreadable-" + now.addSecs(s).toString("yyyyMMdd-HHmmss");
             earlier.insert(name, "earlier copy " + QByteArray::number(s));
             QFile copy("configs/" + name);
             QVERIFY(copy.open(QIODevice::WriteOnly) && copy.write(earlier[name]) > 0);
