@@ -282,6 +282,7 @@ inline void check_script(box_answerer &boxes, const QMap<int, long> &raw) {
     QFETCH(QString, script);
     QFETCH(QString, checks);
     auto panel = make_panel(type);
+    QVERIFY2(panel, qPrintable(QStringLiteral("no panel for type %1").arg(type)));
     run_script(*panel, boxes, script, raw);
     for (const QString &check : checks.split(';', Qt::SkipEmptyParts)) {
         const QString key = check.section('=', 0, 0);
