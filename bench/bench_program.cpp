@@ -212,6 +212,9 @@ case_result measure(const QString &program, int count, const QList<int> &types, 
     env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     // The debug log goes to a file, as an operator's would: writing it is part of the cost.
     env.remove(QStringLiteral("QT_LOGGING_RULES"));
+    // A home of its own: a recording directory remembered in the user's settings would record.
+    env.insert(QStringLiteral("HOME"), dir.filePath(QStringLiteral("home")));
+    env.insert(QStringLiteral("XDG_CONFIG_HOME"), dir.filePath(QStringLiteral("home/config")));
     lumivox.setProcessEnvironment(env);
     const QString log_path = dir.filePath(QStringLiteral("lumivox.log"));
     lumivox.setStandardOutputFile(QProcess::nullDevice());

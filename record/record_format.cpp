@@ -11,6 +11,9 @@ namespace {
 constexpr qint64 ms_per_day = 86400000;
 // Julian day of 1970-01-01.
 constexpr qint64 epoch_julian_day = 2440588;
+// Times are read from 1970 (no sample is older) up to 9999-12-29 UTC, two days short of the last
+// one a local time of four-digit years can show: whatever is read can be written again.
+constexpr qint64 latest_ms = (5373482 - epoch_julian_day) * ms_per_day;
 
 struct kind_entry {
     panel_observation::kind_t kind;
@@ -135,7 +138,7 @@ bool read_time(const QByteArray &text, qint64 *ms) {
     }
     if (at == text.size()) {
         *ms = QDateTime(date, time, Qt::LocalTime).toMSecsSinceEpoch();
-        return true;
+        return *ms >= 0 && *ms <= latest_ms;
     }
     int offset_min = 0;
     if (text.at(at) == 'Z' && at + 1 == text.size()) {
@@ -152,7 +155,7 @@ bool read_time(const QByteArray &text, qint64 *ms) {
     }
     *ms = (date.toJulianDay() - epoch_julian_day) * ms_per_day + time.msecsSinceStartOfDay() -
           qint64(offset_min) * 60000;
-    return true;
+    return *ms >= 0 && *ms <= latest_ms;
 }
 
 void append_line(QByteArray &out, const device_sample &sample, time_writer &times) {

@@ -38,7 +38,8 @@ private:
 };
 
 // Milliseconds since the epoch from an ISO 8601 time with milliseconds: with an offset or "Z",
-// or without one (read as local time). False when the text is no such time.
+// or without one (read as local time). False when the text is no such time, or one before 1970 or
+// in the last days of the year 9999.
 bool read_time(const QByteArray &text, qint64 *ms);
 
 // Appends the sample's line, newline included.

@@ -115,6 +115,10 @@ bool trend_store::load(const QString &path, QString *error, int *skipped) {
     const QByteArray data = mapped ? QByteArray::fromRawData(reinterpret_cast<const char *>(mapped),
                                                              static_cast<int>(size))
                                    : file.readAll();
+    return load_data(data, error, skipped);
+}
+
+bool trend_store::load_data(const QByteArray &data, QString *error, int *skipped) {
     clear();
     int bad = 0;
     int good = 0;

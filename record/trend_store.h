@@ -51,6 +51,8 @@ public:
     // or holds no line of a recording; lines that are not a recording's are skipped and counted
     // in `skipped`.
     bool load(const QString &path, QString *error, int *skipped);
+    // The same for the bytes of a recording.
+    bool load_data(const QByteArray &data, QString *error, int *skipped);
 
     // The points of `series` to draw between t0 and t1 on a chart `columns` pixels wide: every
     // point when they are few, else the first, smallest, largest and last value of each column

@@ -116,7 +116,8 @@ QString clock_text(double ms) {
 
 }  // namespace
 
-trend_window::trend_window(QWidget *parent) : QWidget(parent, Qt::Window) {
+trend_window::trend_window(QWidget *parent, wall_clock now)
+    : QWidget(parent, Qt::Window), now_(std::move(now)) {
     setWindowTitle(tr("Lumivox trends"));
     resize(1100, 760);
 
@@ -220,6 +221,13 @@ trend_window::~trend_window() {
 void trend_window::take(const device_sample &sample) {
     if (!is_live()) {
         return;
+    }
+    // Trimmed as samples come, not by the redraw timer: the history stays bounded also while the
+    // window is hidden or the event loop is busy.
+    const qint64 now = now_();
+    if (now - last_trim_ms_ >= minute_ms) {
+        store_.drop_before(double(now - live_history_ms));
+        last_trim_ms_ = now;
     }
     const int index = store_.add(sample);
     if (index < 0) {
@@ -387,11 +395,6 @@ void trend_window::live_tick() {
     if (!is_live()) {
         return;
     }
-    const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    if (now - last_trim_ms_ >= minute_ms) {
-        store_.drop_before(double(now - live_history_ms));
-        last_trim_ms_ = now;
-    }
     if (dirty_ && !paused() && isVisible()) {
         redraw();
     }
@@ -411,7 +414,7 @@ void trend_window::redraw() {
     } else if (paused()) {
         to = paused_at_;
     } else if (is_live()) {
-        to = std::max(double(QDateTime::currentMSecsSinceEpoch()), store_.last_time());
+        to = std::max(double(now_()), store_.last_time());
     } else {
         to = store_.last_time();
     }
@@ -659,7 +662,7 @@ void trend_window::ask_open() {
         return;
     }
     // A live window keeps following the devices; the recording gets a window of its own.
-    auto *window = new trend_window;
+    auto *window = new trend_window(nullptr, now_);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setAttribute(Qt::WA_QuitOnClose, testAttribute(Qt::WA_QuitOnClose));
     window->resize(size());

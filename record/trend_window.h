@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device_sample.h"
+#include "observation_hub.h"
 #include "trend_store.h"
 
 #include <QHash>
@@ -37,7 +38,9 @@ public:
     // How often a live window redraws (only when something new came and it is not paused).
     static constexpr int redraw_ms = 500;
 
-    explicit trend_window(QWidget *parent = nullptr);
+    // `now` is the wall clock a live window follows and trims its history by (tests drive hours
+    // of it in moments).
+    explicit trend_window(QWidget *parent = nullptr, wall_clock now = system_clock());
     ~trend_window() override;
 
     // Shows the recording at `path` (loaded in a thread of its own; sig_loaded() tells when).
@@ -96,6 +99,7 @@ private:
     void say(const QString &text, bool trouble = false);
     QString range_text() const;
 
+    wall_clock now_;
     trend_store store_;
     QString file_;
     bool dirty_ = false;

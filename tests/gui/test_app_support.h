@@ -10,6 +10,9 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <sys/resource.h>
+#include <csignal>
+
 // Makes a fresh temporary directory the working directory for the life of the object and writes
 // "configs/config.ini" there with exactly these lines (no file when `ini` is null).
 class scratch_dir {
@@ -36,9 +39,40 @@ private:
     QString previous_;
 };
 
+// Holds the process's file size limit at `bytes` while it lives: writes beyond it fail as they do
+// on a full disk (SIGXFSZ is ignored, so they fail instead of ending the process).
+class file_size_limit {
+public:
+    explicit file_size_limit(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &saved_);
+        rlimit small = saved_;
+        small.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~file_size_limit() { setrlimit(RLIMIT_FSIZE, &saved_); }
+    file_size_limit(const file_size_limit &) = delete;
+    file_size_limit &operator=(const file_size_limit &) = delete;
+
+private:
+    rlimit saved_{};
+};
+
+// The window's widget called `name`. A missing one (renamed in the form) fails the test row that
+// asks for it and stands in as a hidden widget of its own, so the rows that follow still run.
 template <typename W = QWidget>
 W *widget(const main_window &window, const char *name) {
-    return window.findChild<W *>(QString::fromLatin1(name));
+    if (W *found = window.findChild<W *>(QString::fromLatin1(name))) {
+        return found;
+    }
+    QTest::qFail(
+        qPrintable(QStringLiteral("the window has no %1 called %2")
+                       .arg(QLatin1String(W::staticMetaObject.className()), QLatin1String(name))),
+        __FILE__, __LINE__);
+    auto *stand_in = new W(const_cast<main_window *>(&window));
+    stand_in->setObjectName(QString::fromLatin1(name));
+    stand_in->hide();
+    return stand_in;
 }
 
 inline QSpinBox *can_id_spin(const main_window &w, int row) {

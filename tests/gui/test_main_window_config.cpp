@@ -217,6 +217,62 @@ private slots:
         QVERIFY2(differ.isEmpty(), qPrintable(differ));
     }
 
+    // A save that fails part-way (a full disk) leaves the file as it was, and nothing beside it.
+    void failed_save_keeps_the_previous_file() {
+        const QByteArray before = "mini_usb_mode=false\ndevice_count=1\ndevice_0=5\n";
+        scratch_dir dir(before);
+        auto window = loaded_window();
+        for (int i = 0; i < 20; ++i) {
+            widget<QPushButton>(*window, "add_pb")->click();
+        }
+        widget<QPushButton>(*window, "apply_pb")->click();
+        warning_log warnings;
+        {
+            const file_size_limit full_disk(rlim_t(before.size()));
+            window->close();
+        }
+        const QString differ = warnings.differences(
+            {R"(configuration file ".*/configs/config\.ini" could not be saved: the file could )"
+             R"(not be written in full \(is the disk full\?\))"});
+        QVERIFY2(differ.isEmpty(), qPrintable(differ));
+        QFile file("configs/config.ini");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), before);
+        QCOMPARE(QDir("configs").entryList(QDir::Files | QDir::Hidden), QStringList{"config.ini"});
+    }
+
+    // The copy of an unusable file never replaces a copy made earlier in the same second (another
+    // file, then): it takes the next free name.
+    void unusable_file_copy_takes_a_free_name() {
+        const QByteArray ini = "device_count=3x\n";
+        scratch_dir dir(ini);
+        QMap<QString, QByteArray> earlier;  // under the names of this second and the next two
+        const QDateTime now = QDateTime::currentDateTime();
+        for (int s = 0; s < 3; ++s) {
+            const QString name =
+                "config.ini.unreadable-" + now.addSecs(s).toString("yyyyMMdd-HHmmss");
+            earlier.insert(name, "earlier copy " + QByteArray::number(s));
+            QFile copy("configs/" + name);
+            QVERIFY(copy.open(QIODevice::WriteOnly) && copy.write(earlier[name]) > 0);
+        }
+        warning_log warnings;
+        auto window = loaded_window();
+        QStringList made = QDir("configs").entryList({"config.ini.unreadable-*"}, QDir::Files);
+        for (auto it = earlier.cbegin(); it != earlier.cend(); ++it) {
+            QFile copy("configs/" + it.key());
+            QVERIFY(copy.open(QIODevice::ReadOnly));
+            QCOMPARE(copy.readAll(), it.value());
+            made.removeOne(it.key());
+        }
+        QCOMPARE(made.size(), 1);
+        QVERIFY2(made.first().endsWith("-2") && earlier.contains(made.first().chopped(2)),
+                 qPrintable(made.first()));
+        QFile copy("configs/" + made.first());
+        QVERIFY(copy.open(QIODevice::ReadOnly));
+        QCOMPARE(copy.readAll(), ini);
+        QVERIFY(warnings.lines().join('\n').contains(made.first()));
+    }
+
     // Apply replaces the devices (their threads end); mini USB mode locks the table to row 0.
     void apply_builds_devices_from_the_table_data() {
         QTest::addColumn<bool>("mini");

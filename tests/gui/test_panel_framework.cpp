@@ -255,7 +255,6 @@ private slots:
         const QList<QWidget *> watched = panel->wheel_blocked_widgets();
         QVERIFY(!watched.isEmpty());
         for (QWidget *widget : watched) {
-            QTest::ignoreMessage(QtDebugMsg, "Wheel event blocked");
             if (auto *spin = qobject_cast<QDoubleSpinBox *>(widget)) {
                 spin->setValue(spin->minimum());
                 turn_wheel(spin, 1);

@@ -8,9 +8,9 @@
 #include "test_app_support.h"
 #include "test_panel_support.h"
 #include "trend_window.h"
+#include "warning_log.h"
 
-#include <sys/resource.h>
-#include <csignal>
+#include <optional>
 
 namespace {
 
@@ -93,12 +93,23 @@ private slots:
     // ID, name (quoted, for it holds a comma and quotes) and model, and its quantity, value, unit.
     void readings_reach_the_file_data() {
         QTest::addColumn<int>("type");
+        QTest::addColumn<int>("code");  // a reading reported as `raw` and recorded as `value`
+        QTest::addColumn<long>("raw");
+        QTest::addColumn<double>("value");
+        // What the panels show for these reports: -1.5 °C on a CW driver, 12.3456 mA on the
+        // precision driver (0.0001 mA), a comb's bias of -250 as 2.5 V.
+        const QMap<int, std::tuple<int, long, double>> facts{
+            {14, {146, -15, -1.5}}, {15, {145, 123456, 12.3456}}, {17, {152, -250, 2.5}}};
         for (int type : panel_test::panel_types()) {
-            QTest::addRow("type %d", type) << type;
+            const auto [code, raw, value] = facts.value(type, {-1, 0L, 0.0});
+            QTest::addRow("type %d", type) << type << code << raw << value;
         }
     }
     void readings_reach_the_file() {
         QFETCH(int, type);
+        QFETCH(int, code);
+        QFETCH(long, raw);
+        QFETCH(double, value);
         QTemporaryDir dir;
         const qint64 now = midnight + 9 * 3600 * 1000 + 589;
         observation_hub hub([now] { return now; });
@@ -111,7 +122,7 @@ private slots:
         QVERIFY(!panel->readings().isEmpty());
         for (const reading_spec &reading : panel->readings()) {
             QVERIFY(!reading.quantity.isEmpty());
-            panel->sl_parsed_data_received(reading.code, -250);
+            panel->sl_parsed_data_received(reading.code, reading.code == code ? raw : -250);
         }
         rec.stop();
 
@@ -135,10 +146,9 @@ private slots:
             QCOMPARE(line->at(1), QByteArray("7"));
             QCOMPARE(QString::fromUtf8(line->at(2)), name);
             QCOMPARE(QString::fromUtf8(line->at(3)), panel->type_name());
-            // The file keeps 12 significant digits.
-            const double expected = (-250 - reading.offset) / reading.divisor;
-            QVERIFY2(qAbs(line->at(6).toDouble() - expected) <= 1e-9 * qMax(1.0, qAbs(expected)),
-                     line->at(6).constData());
+            if (reading.code == code) {
+                QCOMPARE(line->at(6).toDouble(), value);
+            }
             QCOMPARE(QString::fromUtf8(line->at(7)), reading.unit);
         }
     }
@@ -214,19 +224,16 @@ private slots:
         auto window = loaded_window();
         window->show();
         recorder rec;
-        // A file size limit stands in for the full disk: writes past it fail as they would.
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit unlimited{};
-        getrlimit(RLIMIT_FSIZE, &unlimited);
-        rlimit small = unlimited;
-        small.rlim_cur = samples > 0 ? 4096 : unlimited.rlim_cur;
-        setrlimit(RLIMIT_FSIZE, &small);
+        std::optional<file_size_limit> full_disk;
+        if (samples > 0) {
+            full_disk.emplace(4096);
+        }
         record_window(*window, rec, QDir::current().filePath(where));
         for (int i = 0; i < samples; ++i) {
             rec.take(sample(i, i));
         }
         QTRY_VERIFY(!rec.recording());
-        setrlimit(RLIMIT_FSIZE, &unlimited);
+        full_disk.reset();
         QTRY_VERIFY(window->statusBar()->currentMessage().contains(where));
         auto *box = window->findChild<QMessageBox *>();
         QVERIFY(box && box->isVisible());
@@ -311,7 +318,7 @@ private slots:
         window->show();
         window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
-        auto panel = panel_test::make_panel(panel_test::panel_types().first());
+        auto panel = panel_test::make_panel(14);
         window->observations()->watch(5, QStringLiteral("Pump"), panel.get());
         const auto shown_trends = [] {
             QList<trend_window *> found;
@@ -328,15 +335,81 @@ private slots:
         QCOMPARE(shown_trends().size(), 1);
         trend_window *trends = shown_trends().first();
         QVERIFY(trends->is_live());
-        const reading_spec reading = panel->readings().first();
-        panel->sl_parsed_data_received(reading.code, 120);
+        panel->sl_parsed_data_received(145, 120);  // the drive current, 12.0 mA
         trends->close();
-        panel->sl_parsed_data_received(reading.code, 130);
+        panel->sl_parsed_data_received(145, 130);
         QCOMPARE(window->open_trends(), trends);
-        QCOMPARE(series_of(*trends), QStringList{QStringLiteral("Pump/%1/%2/reading: 2, %3..%4")
-                                                     .arg(reading.quantity, reading.unit)
-                                                     .arg(120 / reading.divisor)
-                                                     .arg(130 / reading.divisor)});
+        QCOMPARE(series_of(*trends), QStringList{"Pump/Current/mA/reading: 2, 12..13"});
+    }
+
+    // A live window holds the last four hours (and a few minutes) however long it runs, every
+    // sample of them: five hours of one every ten seconds, on a clock of the test's own.
+    void live_window_keeps_four_hours() {
+        constexpr qint64 step = 10 * 1000, hour = 3600 * 1000;
+        qint64 now = midnight;
+        trend_window window(nullptr, [&now] { return now; });
+        for (; now <= midnight + 5 * hour; now += step) {
+            window.take(sample(now - midnight, double(now % 7)));
+        }
+        QCOMPARE(window.store().series().size(), std::size_t(1));
+        const QVector<double> &times = window.store().series().front().times;
+        QVERIFY(!times.isEmpty());
+        QCOMPARE(times.last(), double(midnight + 5 * hour));
+        const double kept = times.last() - times.first();
+        QVERIFY2(kept >= 4 * hour && kept <= 4 * hour + 15 * 60 * 1000,
+                 qPrintable(QString::number(kept)));
+        QCOMPARE(times.size(), int(kept / step) + 1);
+    }
+
+    // Samples that arrive out of order (a clock set back) land in time order, with their values.
+    void out_of_order_samples_land_in_order() {
+        trend_store store;
+        for (const double value : {3.0, 1.0, 2.0, 2.5, 4.0, 0.5}) {
+            store.add(sample(qint64(value) * 1000, value));
+        }
+        QVector<double> times;
+        for (double t : store.series().front().times) {
+            times << t - midnight;
+        }
+        QCOMPARE(times, (QVector<double>{0, 1000, 2000, 2000, 3000, 4000}));
+        QCOMPARE(store.series().front().values, (QVector<double>{0.5, 1, 2, 2.5, 3, 4}));
+    }
+
+    // A chart a few hundred pixels wide draws an hour of samples as a few points per pixel, and a
+    // spike or a dip of a single sample still shows.
+    void thinning_keeps_a_single_sample_spike() {
+        trend_series s;
+        for (int i = 0; i < 36000; ++i) {
+            s.times.append(i * 100.0);
+            s.values.append(i == 20001 ? 50 : i == 7777 ? -20 : 1);
+        }
+        const QVector<QPointF> points = trend_store::visible_points(s, 0, s.times.last(), 300);
+        QVERIFY2(points.size() <= 4 * 300 + 2, qPrintable(QString::number(points.size())));
+        QVERIFY(points.contains(QPointF(2000100, 50)));
+        QVERIFY(points.contains(QPointF(777700, -20)));
+        QVERIFY(std::is_sorted(points.begin(), points.end(),
+                               [](const QPointF &a, const QPointF &b) { return a.x() < b.x(); }));
+    }
+
+    // A panel that reported while nothing listened reports as soon as something does; a deleted
+    // panel drops out of the hub.
+    void hub_follows_listeners_and_panels() {
+        observation_hub hub([] { return midnight; });
+        auto kept = panel_test::make_panel(14);
+        auto gone = panel_test::make_panel(14);
+        hub.watch(1, QStringLiteral("Kept"), kept.get());
+        hub.watch(2, QStringLiteral("Gone"), gone.get());
+        kept->sl_parsed_data_received(145, 100);  // nobody listens yet
+        gone.reset();
+        QCOMPARE(hub.watched(), 1);
+        warning_log warnings;
+        QStringList heard;
+        connect(&hub, &observation_hub::sig_sample, this, [&heard](const device_sample &s) {
+            heard << s.device + '/' + s.quantity + '=' + QString::number(s.value);
+        });
+        kept->sl_parsed_data_received(145, 120);
+        QCOMPARE(heard.filter("/Current="), QStringList{"Kept/Current=12"});
+        QCOMPARE(warnings.lines(), QStringList());
     }
 
     // The command line, and the recording directory remembered between runs.

@@ -1,7 +1,8 @@
-// The `lumivox` program itself, started as an operator starts it, ends on SIGTERM, SIGINT and SIGHUP
-// as it does when its window is closed: configuration saved, every thread stopped, exit code 0.
-// Checked with the serial link open (on the simulator) and with automatic connection retrying a
-// missing adapter.
+// The `lumivox` program itself, started as an operator starts it, ends on SIGTERM, SIGINT and
+// SIGHUP as it does when its window is closed: configuration saved, recording finished, every
+// thread stopped, exit code 0. Checked with the serial link open (on the simulator) and with
+// automatic connection retrying a missing adapter. The program runs with a home of its own.
+#include "record_format.h"
 #include "sim_bus.h"
 #include "sim_pty.h"
 
@@ -59,17 +60,27 @@ private slots:
         program.setWorkingDirectory(dir.path());
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert("QT_QPA_PLATFORM", "offscreen");
+        env.insert("HOME", dir.filePath("home"));
+        env.insert("XDG_CONFIG_HOME", dir.filePath("home/config"));
         program.setProcessEnvironment(env);
-        program.start(QStringLiteral(LUMIVOX_EXE), QStringList());
+        program.start(QStringLiteral(LUMIVOX_EXE), {"--record", "rec"});
         QVERIFY(program.waitForStarted());
 
-        // The window is up (and the signal watch installed) once the configuration has been read;
-        // with the adapter present, wait for the device's type to have been asked and answered.
-        QByteArray errors;
+        // The window is up (and the signal watch installed) once the recording's file is made,
+        // after the configuration has been read.
+        QFile recording;
         QTRY_VERIFY_WITH_TIMEOUT(
-            (errors += program.readAllStandardError()).contains("saved writed"), 10000);
+            !QDir(dir.filePath("rec")).entryList({"lumivox-*.csv"}, QDir::Files).isEmpty(), 10000);
+        recording.setFileName(
+            QDir(dir.filePath("rec")).entryInfoList({"*.csv"}).first().filePath());
+        QVERIFY(recording.open(QIODevice::ReadOnly));
         if (adapter_present) {
-            QTRY_VERIFY_WITH_TIMEOUT(bus.frames() > 0, 10000);
+            // The device reports, the recorder has handed over to its file, and reports go on.
+            QByteArray written;
+            QTRY_VERIFY_WITH_TIMEOUT((written += recording.readAll()).contains(",reading,Current,"),
+                                     10000);
+            const int frames = bus.frames();
+            QTRY_VERIFY_WITH_TIMEOUT(bus.frames() > frames + 50, 10000);
         }
         // Remove the file so that only the close can have written it again.
         QVERIFY(QFile::remove(dir.filePath("configs/config.ini")));
@@ -77,11 +88,33 @@ private slots:
         QCOMPARE(::kill(static_cast<pid_t>(program.processId()), signal_number), 0);
         // The loop keeps the simulator answering while the program closes.
         QTRY_VERIFY_WITH_TIMEOUT(program.state() == QProcess::NotRunning, 10000);
-        errors += program.readAllStandardError();
+        const QByteArray errors = program.readAllStandardError();
 
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 0);
         QVERIFY2(!errors.contains("QThread: Destroyed"), errors.constData());
+        QVERIFY(QFile::exists(dir.filePath("home/config/lumivox/lumivox.ini")));
+
+        // The recording is complete: whole lines of samples under the header, and each reading
+        // that stayed the same since it was last written is written once more at the end.
+        QVERIFY(recording.seek(0));
+        const QByteArray recorded = recording.readAll();
+        QVERIFY(recorded.endsWith('\n'));
+        QMap<QString, int> lines;  // per reading
+        record_format::read_records(recorded, [&](const QList<QByteArray> &fields, int at) {
+            device_sample sample;
+            if (at == 1 ? fields.join(',') != record_format::header()
+                        : !record_format::read_sample(fields, &sample)) {
+                QTest::qFail(fields.join(',').constData(), __FILE__, __LINE__);
+            } else if (at > 1 && sample.kind == panel_observation::reading) {
+                ++lines[sample.quantity];
+            }
+            return true;
+        });
+        QCOMPARE(lines.isEmpty(), !adapter_present);
+        for (auto it = lines.cbegin(); it != lines.cend(); ++it) {
+            QVERIFY2(it.value() >= 2, qPrintable(it.key()));
+        }
         QSettings saved(dir.filePath("configs/config.ini"), QSettings::IniFormat);
         QCOMPARE(saved.value("prev_port").toString(), port);
         QCOMPARE(saved.value("device_count").toInt(), 2);

@@ -1,10 +1,12 @@
 // The whole program against the device simulator: the real main window with its configuration
 // file, serial link, devices and panels, talking to simulated devices over a pseudo-terminal.
+#include "cross_thread.h"
 #include "device.h"
 #include "main_window.h"
 #include "message_route.h"
 #include "panel_registry.h"
 #include "panels.h"
+#include "serial_connector.h"
 #include "sim_bus.h"
 #include "sim_pty.h"
 
@@ -35,11 +37,25 @@ class test_program_sim : public QObject {
     panel_registry registry;
     sim_bus bus;
     sim_pty *line = nullptr;
+    QString port;  // a link to the line, as a udev rule names an adapter
     QTimer clock;
     main_window *window = nullptr;
     QList<QString> boxes;
 
-    device_panel *panel_of(int slot) const { return window->devices().at(slot)->current_panel(); }
+    device_panel *panel_of(int slot) const {
+        device *dev = window->devices().value(slot);
+        return dev ? dev->current_panel() : nullptr;
+    }
+    // The widget called `name` in the panel of `slot`; null while the device has no panel.
+    template <class W>
+    W *in_panel(int slot, const char *name) const {
+        device_panel *panel = panel_of(slot);
+        return panel ? panel->findChild<W *>(QString::fromLatin1(name)) : nullptr;
+    }
+    QString status() const {
+        auto *label = window->findChild<QLabel *>(QStringLiteral("connection_status_label"));
+        return label ? label->text() : QString();
+    }
 
 private slots:
     void initTestCase() {
@@ -54,6 +70,9 @@ private slots:
         QVERIFY(bus.add_device(heater_id, 4));
         line = new sim_pty(bus, this);
         QVERIFY(line->open());
+        port = dir.filePath(QStringLiteral("adapter"));
+        QString error;
+        QVERIFY2(sim_pty::point_link(port, line->slave_path(), &error), qPrintable(error));
         // The simulated devices move in real time, as hardware does.
         connect(&clock, &QTimer::timeout, this, [this] { bus.advance(10); });
         clock.start(10);
@@ -61,7 +80,7 @@ private slots:
         // A configuration as the operator would have saved it: automatic connection to the line.
         QDir().mkpath(QStringLiteral("configs"));
         QSettings ini(QStringLiteral("configs/config.ini"), QSettings::IniFormat);
-        ini.setValue("prev_port", line->slave_path());
+        ini.setValue("prev_port", port);
         ini.setValue("mini_usb_mode", false);
         ini.setValue("autoconnection_mode", true);
         const int ids[] = {cw_id, precision_id, picosecond_id, heater_id};
@@ -104,20 +123,23 @@ private slots:
         // Once every configuration row is known (emission and TEC off), the configuration
         // button is enabled; the rows come from the simulated device's own table.
         for (int slot : {0, 1, 2, 3}) {
-            auto *configure = panel_of(slot)->findChild<QAbstractButton *>("toolButton");
+            auto *configure = in_panel<QAbstractButton>(slot, "toolButton");
             QVERIFY(configure);
             QTRY_VERIFY_WITH_TIMEOUT(configure->isEnabled(), 15000);
         }
-        auto *model = panel_of(0)->findChild<QLabel *>("laser_name_label");
+        auto *model = in_panel<QLabel>(0, "laser_name_label");
+        QVERIFY(model);
         QCOMPARE(model->text(), QStringLiteral("VTR-CW-1800"));
         // The picosecond driver's 100 kHz fills its rate in the "kHz" range.
-        auto *rate = panel_of(2)->findChild<QDoubleSpinBox *>("dsb_freq");
+        auto *rate = in_panel<QDoubleSpinBox>(2, "dsb_freq");
+        auto *range = in_panel<QComboBox>(2, "cb_freq_range");
+        QVERIFY(rate && range);
         QTRY_COMPARE_WITH_TIMEOUT(rate->value(), 100.0, 5000);
-        QCOMPARE(panel_of(2)->findChild<QComboBox *>("cb_freq_range")->currentText(), "kHz");
+        QCOMPARE(range->currentText(), "kHz");
     }
 
     void confirmed_set_point_reaches_the_device() {
-        auto *temperature = panel_of(0)->findChild<QDoubleSpinBox *>("spin_temp");
+        auto *temperature = in_panel<QDoubleSpinBox>(0, "spin_temp");
         QVERIFY(temperature);
         temperature->setFocus();
         temperature->setValue(21.5);
@@ -128,11 +150,10 @@ private slots:
     }
 
     void emission_round_trip() {
-        auto *emission_switch = panel_of(0)->findChild<QAbstractButton *>("on_off_button");
-        QVERIFY(emission_switch);
-        auto *state = panel_of(0)->findChild<QLabel *>("power_state_label");
+        auto *emission_switch = in_panel<QAbstractButton>(0, "on_off_button");
+        auto *state = in_panel<QLabel>(0, "power_state_label");
         auto *summary = window->findChild<QLabel *>("emission_label");
-        QVERIFY(state && summary);
+        QVERIFY(emission_switch && state && summary);
         QCOMPARE(summary->text(), QStringLiteral("Emission: OFF"));
         emission_switch->click();
         // Written, reported back by the device, shown by the panel and summed by the window.
@@ -146,13 +167,12 @@ private slots:
     // The heater takes its set-point and its switch, then warms; its switch is not emission, so
     // the window's emission summary stays off.
     void heater_round_trip() {
-        auto *heater_switch = panel_of(3)->findChild<QAbstractButton *>("on_off_button");
-        auto *state = panel_of(3)->findChild<QLabel *>("l_onoff");
-        auto *temperature = panel_of(3)->findChild<QLabel *>("l_temp");
-        QVERIFY(heater_switch && state && temperature);
+        auto *heater_switch = in_panel<QAbstractButton>(3, "on_off_button");
+        auto *state = in_panel<QLabel>(3, "l_onoff");
+        auto *temperature = in_panel<QLabel>(3, "l_temp");
+        auto *set_point = in_panel<QDoubleSpinBox>(3, "dsb_temp");
+        QVERIFY(heater_switch && state && temperature && set_point);
         QTRY_COMPARE_WITH_TIMEOUT(temperature->text(), QStringLiteral("22.0 °C"), 5000);
-        auto *set_point = panel_of(3)->findChild<QDoubleSpinBox *>("dsb_temp");
-        QVERIFY(set_point);
         set_point->setFocus();
         set_point->setValue(60.0);
         QTest::keyClick(set_point, Qt::Key_Return);
@@ -179,10 +199,51 @@ private slots:
         QCOMPARE(panel_of(1)->type_name(), QStringLiteral("VTR-CW-1800H precision"));
     }
 
+    // A read error on a line that is still up is no disconnection; the adapter unplugged is: the
+    // window says so, retries the port until the adapter is back, starts its CAN channel again
+    // and polls the same panels on.
+    void adapter_comes_back_after_a_hang_up() {
+        QList<QPointer<device_panel>> panels;
+        for (int slot : {0, 1, 2, 3}) {
+            panels << panel_of(slot);
+            QVERIFY(panels.last());
+        }
+        QCOMPARE(status(), QStringLiteral("Connection status: CONNECTED"));
+        QSignalSpy attempts(window, &main_window::sig_init_connection);
+        serial_connector *link = window->serial_link();
+        run_in(link, [link] { link->sl_serial_handle_error(QSerialPort::ReadError); });
+        QCoreApplication::processEvents();
+        QCOMPARE(status(), QStringLiteral("Connection status: CONNECTED"));
+        QCOMPARE(attempts.count(), 0);
+
+        line->hang_up();
+        QTRY_COMPARE_WITH_TIMEOUT(status(), QStringLiteral("Connection status: DISCONNECTED"),
+                                  5000);
+        QTRY_VERIFY_WITH_TIMEOUT(attempts.count() >= 2, 5000);  // in vain while it is away
+        auto *replugged = new sim_pty(bus, this);
+        QVERIFY(replugged->open());
+        QString error;
+        QVERIFY2(sim_pty::point_link(port, replugged->slave_path(), &error), qPrintable(error));
+        line = replugged;
+        QTRY_COMPARE_WITH_TIMEOUT(status(), QStringLiteral("Connection status: CONNECTED"), 5000);
+        QVERIFY(line->adapter().channel_open());
+        QCOMPARE(line->adapter().bit_rate_code(), 6);
+        QList<int> requests;
+        for (const auto &simulated : bus.devices()) {
+            requests << simulated->requests();
+        }
+        for (int i = 0; i < requests.size(); ++i) {
+            QTRY_VERIFY(bus.devices().at(std::size_t(i))->requests() > requests.at(i));
+        }
+        for (int slot : {0, 1, 2, 3}) {
+            QCOMPARE(panel_of(slot), panels.at(slot).data());
+        }
+    }
+
     void closing_saves_the_configuration() {
         window->close();
         QSettings ini(QStringLiteral("configs/config.ini"), QSettings::IniFormat);
-        QCOMPARE(ini.value("prev_port").toString(), line->slave_path());
+        QCOMPARE(ini.value("prev_port").toString(), port);
         QCOMPARE(ini.value("device_count").toInt(), 4);
         QCOMPARE(ini.value("device_2").toInt(), picosecond_id);
     }

@@ -45,10 +45,13 @@ struct type_reads {
 type_reads reads_of(int type) {
     std::unique_ptr<device_panel> created(panels().create(type, nullptr));
     auto *panel = dynamic_cast<panel_base *>(created.get());
-    if (!panel) {
-        qFatal("no panel for type %d", type);
-    }
     type_reads reads;
+    if (!panel) {
+        // Fails the test that asks, which then finds nothing to read; the other types go on.
+        QTest::qFail(qPrintable(QStringLiteral("no panel for type %1").arg(type)), __FILE__,
+                     __LINE__);
+        return reads;
+    }
     for (int code : panel->plan().read_codes) {
         if (code != poll_plan::silent) {
             reads.polled << code;
@@ -471,7 +474,9 @@ private slots:
         rig r;
         sim_device *dev = r.add(12, type);
         QVERIFY(dev);
-        const int row = reads_of(type).rows.last();
+        const QList<int> rows = reads_of(type).rows;
+        QVERIFY(!rows.isEmpty());
+        const int row = rows.last();
         const long old = *r.value(12, row + 128);
         const long changed = old + 7;
         r.send(12, row, changed);
