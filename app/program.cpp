@@ -95,6 +95,22 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
         QCoreApplication::translate(
             "program", "Write every frame sent and every line received to the debug log."));
     parser.addOptions({record, trends, log_wire});
+    // Where the run works (see working_place.h); from a terminal, the current directory.
+    const QCommandLineOption user_dir(
+        QStringLiteral("user-dir"),
+        QCoreApplication::translate(
+            "program",
+            "Work in the per-user directory ($XDG_CONFIG_HOME/lumivox/work, by default "
+            "~/.config/lumivox/work; made on first run) instead of the current directory. The "
+            "menu entry starts the program this way."));
+    const QCommandLineOption demo(
+        QStringLiteral("demo"),
+        QCoreApplication::translate(
+            "program",
+            "Try the program without hardware: start the device simulator (lumivox-sim) with one "
+            "device of every modelled type and connect to it, in a scratch directory."));
+    parser.addOption(user_dir);
+    parser.addOption(demo);
     parser.addPositionalArgument(
         QStringLiteral("file"), QCoreApplication::translate("program", "A recording for --trends."),
         QStringLiteral("[file]"));
@@ -134,6 +150,8 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
     options->record_dir = remembered.value(record_key).toString();
     options->trends = parser.isSet(trends);
     options->trends_file = files.value(0);
+    options->user_dir = parser.isSet(user_dir);
+    options->demo = parser.isSet(demo);
     return -1;
 }
 
