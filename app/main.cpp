@@ -24,7 +24,7 @@ int main(int argc, char *argv[]) {
     }
     // Outlives the window: the simulator of a demo runs until the window has closed.
     demo_run demo;
-    if (const int code = enter_working_place(options, demo); code >= 0) {
+    if (const int code = start_demo(options, demo); code >= 0) {
         return code;
     }
 

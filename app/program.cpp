@@ -9,11 +9,13 @@
 #include "recorder.h"
 #include "translation.h"
 #include "trend_window.h"
+#include "working_place.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDebug>
 #include <QFileInfo>
+#include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
 #include <QSettings>
@@ -62,6 +64,8 @@ void quit_on_signal(QObject *parent) {
 
 void prepare_program(QApplication &app, QTranslator &translator) {
     install_translation(app, translator, QLocale().uiLanguages());
+    // The menu entry's icon (the package installs it in every size of the icon theme).
+    app.setWindowIcon(QIcon(QStringLiteral(":/interface/lumivox_64.png")));
     // Every device created from now on finds its panel class here.
     register_panels(panel_registry::instance());
     quit_on_signal(&app);
@@ -152,6 +156,14 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
     options->trends_file = files.value(0);
     options->user_dir = parser.isSet(user_dir);
     options->demo = parser.isSet(demo);
+    // Entered here, before anything reads or writes the configuration, whatever runs next.
+    if (options->user_dir && !options->demo) {
+        QString error;
+        if (!enter_user_working_dir(&error)) {
+            tell_start_failure(error);
+            return 1;
+        }
+    }
     return -1;
 }
 

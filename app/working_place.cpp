@@ -4,13 +4,18 @@
 #include "message_route.h"
 #include "program.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 
+#include <csignal>
 #include <cstdio>
+
+#include <sys/prctl.h>
 
 namespace {
 
@@ -30,6 +35,12 @@ bool enter(const QString &dir, QString *error) {
     }
     return true;
 }
+
+// The simulator ends with the program, even when the program is killed outright.
+class child_process : public QProcess {
+protected:
+    void setupChildProcess() override { ::prctl(PR_SET_PDEATHSIG, SIGTERM); }
+};
 
 }  // namespace
 
@@ -55,16 +66,31 @@ bool demo_run::start(QString *error) {
                      .arg(dir_->errorString());
         return false;
     }
-    const QString link = dir_->filePath(QStringLiteral("simulated-adapter"));
     const QString program = simulator_program();
-    simulator_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    simulator_.start(program, {QStringLiteral("--every-type"), QStringLiteral("--link"), link});
-    // The simulator prints its line's path first, once the line (and the link) is there.
-    while (simulator_.waitForReadyRead(simulator_start_ms) && !simulator_.canReadLine()) {
-    }
-    if (!simulator_.canReadLine() || !QFileInfo::exists(link)) {
+    simulator_ = std::make_unique<child_process>();
+    simulator_->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    // The simulator prints the path of its line first, once the line is there.
+    QEventLoop waiting;
+    QTimer::singleShot(simulator_start_ms, &waiting, &QEventLoop::quit);
+    QObject::connect(simulator_.get(), &QProcess::readyReadStandardOutput, &waiting, [&] {
+        if (simulator_->canReadLine()) {
+            waiting.quit();
+        }
+    });
+    QObject::connect(simulator_.get(), &QProcess::errorOccurred, &waiting, &QEventLoop::quit);
+    QObject::connect(simulator_.get(),
+                     QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &waiting,
+                     &QEventLoop::quit);
+    simulator_->start(program, {QStringLiteral("--every-type")});
+    waiting.exec();
+    const QString line = simulator_->canReadLine()
+                             ? QString::fromLocal8Bit(simulator_->readLine()).trimmed()
+                             : QString();
+    if (line.isEmpty()) {
         *error = QCoreApplication::translate("program", "The simulator %1 did not start: %2.")
-                     .arg(program, simulator_.errorString());
+                     .arg(program, simulator_->state() == QProcess::NotRunning
+                                       ? simulator_->errorString()
+                                       : QStringLiteral("no answer"));
         return false;
     }
 
@@ -72,7 +98,7 @@ bool demo_run::start(QString *error) {
     QDir().mkpath(dir_->filePath(QStringLiteral("configs")));
     QSettings ini(dir_->filePath(QStringLiteral("configs/config.ini")), QSettings::IniFormat);
     const std::vector<int> types = sim::modelled_types();
-    ini.setValue(QStringLiteral("prev_port"), link);
+    ini.setValue(QStringLiteral("prev_port"), line);
     ini.setValue(QStringLiteral("mini_usb_mode"), false);
     ini.setValue(QStringLiteral("autoconnection_mode"), true);
     ini.setValue(QStringLiteral("device_count"), static_cast<int>(types.size()));
@@ -92,29 +118,38 @@ bool demo_run::start(QString *error) {
 }
 
 demo_run::~demo_run() {
-    if (simulator_.state() != QProcess::NotRunning) {
-        simulator_.terminate();  // SIGTERM: the simulator removes its link and exits
-        if (!simulator_.waitForFinished(3000)) {
-            simulator_.kill();
-            simulator_.waitForFinished(1000);
+    if (simulator_ && simulator_->state() != QProcess::NotRunning) {
+        simulator_->terminate();  // SIGTERM: the simulator closes its line and exits
+        if (!simulator_->waitForFinished(3000)) {
+            simulator_->kill();
+            simulator_->waitForFinished(1000);
         }
     }
 }
 
-int enter_working_place(const program_options &options, demo_run &demo) {
-    QString error;
-    if (options.demo) {
-        if (demo.start(&error)) {
-            std::fprintf(stderr, "%s\n",
-                         qPrintable(QCoreApplication::translate(
-                                        "program", "Demo: simulated devices, working in %1")
-                                        .arg(demo.dir())));
-            return -1;
-        }
-    } else if (!options.user_dir || enter(user_working_dir(), &error)) {
+bool enter_user_working_dir(QString *error) {
+    return enter(user_working_dir(), error);
+}
+
+void tell_start_failure(const QString &why) {
+    std::fprintf(stderr, "lumivox: %s\n", qPrintable(why));
+    if (qobject_cast<QApplication *>(QCoreApplication::instance())) {
+        inform(nullptr, QStringLiteral("Lumivox"), why);
+    }
+}
+
+int start_demo(const program_options &options, demo_run &demo) {
+    if (!options.demo) {
         return -1;
     }
-    std::fprintf(stderr, "lumivox: %s\n", qPrintable(error));
-    inform(nullptr, QStringLiteral("Lumivox"), error);
-    return 1;
+    QString error;
+    if (!demo.start(&error)) {
+        tell_start_failure(error);
+        return 1;
+    }
+    std::fprintf(stderr, "%s\n",
+                 qPrintable(QCoreApplication::translate("program",
+                                                        "Demo: simulated devices, working in %1")
+                                .arg(demo.dir())));
+    return -1;
 }

@@ -10,7 +10,8 @@ struct program_options;
 
 // Where a run of the program works, that is, where "configs/config.ini" lives: the current
 // directory when started from a terminal; the per-user directory when started from the menu
-// (--user-dir); a scratch directory next to a simulator of its own for the demo (--demo).
+// (--user-dir, entered while the command line is read); a scratch directory next to a simulator of
+// its own for the demo (--demo).
 
 // The per-user working directory: "work" in Lumivox's directory under the user's configuration
 // location ($XDG_CONFIG_HOME/lumivox/work, by default ~/.config/lumivox/work), beside the
@@ -38,11 +39,17 @@ public:
 
 private:
     std::unique_ptr<QTemporaryDir> dir_;
-    QProcess simulator_;
+    std::unique_ptr<QProcess> simulator_;
 };
 
-// Makes the directory that `options` asks for the current one (nothing to do by default): the
-// per-user directory, made on first run, or the demo's. Returns -1 to go on, else the exit code
-// after saying what went wrong on standard error and in a box (a run from the menu has no
-// terminal).
-int enter_working_place(const program_options &options, demo_run &demo);
+// Makes the per-user working directory (on first run) and the current directory; false with the
+// reason.
+bool enter_user_working_dir(QString *error);
+
+// Says why the program cannot start on standard error and, with a window system, in a box: a run
+// from the menu has no terminal.
+void tell_start_failure(const QString &why);
+
+// Starts the demo when `options` asks for it. Returns -1 to go on, else the exit code after
+// telling what went wrong.
+int start_demo(const program_options &options, demo_run &demo);
