@@ -35,13 +35,33 @@ QString port_report::text(const port_failure &failure) {
     return tr("Cannot open the serial port %1: %2.").arg(failure.port, failure.detail);
 }
 
+QString port_report::status_text(const port_failure &failure) {
+    switch (failure.what) {
+    case port_failure::none:
+        return QString();
+    case port_failure::no_port:
+        return tr("No serial port is chosen: pick one on the Settings page.");
+    case port_failure::missing:
+        return tr("%1 is not there: the USB adapter is unplugged.").arg(failure.port);
+    case port_failure::permission:
+        return tr("%1: permission denied; join the \"dialout\" group (sudo adduser $USER dialout, "
+                  "log in again).")
+            .arg(failure.port);
+    case port_failure::busy:
+        return tr("%1 is held by another program: close it and connect again.").arg(failure.port);
+    case port_failure::other:
+        break;
+    }
+    return tr("Cannot open %1: %2.").arg(failure.port, failure.detail);
+}
+
 void port_report::failed(const port_failure &failure) {
     const QString why = text(failure);
     if (why.isEmpty()) {
         return;
     }
-    shown_ = why;
-    window_->statusBar()->showMessage(why);
+    shown_ = status_text(failure);
+    window_->statusBar()->showMessage(shown_);
     if (why == boxed_) {
         return;
     }

@@ -16,8 +16,10 @@ class port_report : public QObject {
 public:
     explicit port_report(QMainWindow *window);
 
-    // The words for a failure; empty for `none`.
+    // The words for a failure, in full for the box and the warning; empty for `none`.
     static QString text(const port_failure &failure);
+    // The same in short, to fit the status bar.
+    static QString status_text(const port_failure &failure);
 
     // A connect request failed (`none`: it did not, nothing to say).
     void failed(const port_failure &failure);

@@ -93,7 +93,8 @@ private slots:
         QVERIFY2(boxes.texts.first().contains("/nonexistent/port") &&
                      boxes.texts.first().contains("unplugged"),
                  qPrintable(boxes.texts.first()));
-        QCOMPARE(window->statusBar()->currentMessage(), boxes.texts.first());
+        QVERIFY2(window->statusBar()->currentMessage().contains("unplugged"),
+                 qPrintable(window->statusBar()->currentMessage()));
         widget<QCheckBox>(*window, "autoconnection_checkbox")->setChecked(false);
         QTRY_VERIFY(widget(*window, "serial_combo_box")->isEnabled());
         QSignalSpy more(window.get(), &main_window::sig_init_connection);
@@ -107,7 +108,7 @@ private slots:
         QTest::addColumn<QStringList>("words");
         QTest::newRow("permission: join dialout")
             << int(port_failure::permission)
-            << QStringList{"/dev/ttyUSB7", "permission", "\"dialout\" group",
+            << QStringList{"/dev/ttyUSB7", "permission denied", "\"dialout\" group",
                            "sudo adduser $USER dialout", "log in again"};
         QTest::newRow("busy: another program") << int(port_failure::busy)
                                                << QStringList{"/dev/ttyUSB7", "another program"};
@@ -129,10 +130,14 @@ private slots:
         window->port_failures()->failed(failure);
         window->port_failures()->failed(failure);  // a retry
         QTRY_COMPARE(boxes.texts.size(), 1);
+        // The box has it in full, the status bar in short; both have the words that matter.
         for (const QString &word : words) {
             QVERIFY2(told().contains(word), qPrintable(told()));
+            QVERIFY2(boxes.texts.first().contains(word), qPrintable(boxes.texts.first()));
         }
-        QCOMPARE(boxes.texts.first(), told());
+        // The short form fits the status bar of the window at its first size.
+        QVERIFY(window->statusBar()->fontMetrics().horizontalAdvance(told()) <
+                window->width());
         QVERIFY(!QTest::qWaitFor([&] { return boxes.texts.size() > 1; }, 100));
 
         // Once the port has opened, the message goes and the next failure has its box again.
@@ -141,8 +146,9 @@ private slots:
         window->port_failures()->failed(failure);
         QTRY_COMPARE(boxes.texts.size(), 2);
         // Nothing to tell: a port closed on request.
+        const QString before = told();
         window->port_failures()->failed(port_failure());
-        QCOMPARE(boxes.texts.first(), told());
+        QCOMPARE(told(), before);
     }
 
     // Devices at CAN IDs no frame can carry are named in a warning and send nothing; the others
