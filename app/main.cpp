@@ -2,6 +2,7 @@
 #include "program.h"
 #include "recorder.h"
 #include "trend_window.h"
+#include "working_place.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -19,6 +20,11 @@ int main(int argc, char *argv[]) {
     program_options options;
     const std::unique_ptr<QSettings> settings(open_program_settings());
     if (const int code = take_command_line(app.arguments(), *settings, &options); code >= 0) {
+        return code;
+    }
+    // Outlives the window: the simulator of a demo runs until the window has closed.
+    demo_run demo;
+    if (const int code = start_demo(options, demo); code >= 0) {
         return code;
     }
 

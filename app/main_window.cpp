@@ -4,6 +4,7 @@
 #include "frame_codec.h"
 #include "observation_hub.h"
 #include "panel_registry.h"
+#include "port_report.h"
 #include "serial_connector.h"
 #include "settings_file.h"
 #include "trend_window.h"
@@ -121,6 +122,8 @@ main_window::main_window(const QString &brand, const panel_registry *registry, Q
     observations_ = new observation_hub(system_clock(), this);
     auto *trends = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_T), this);
     connect(trends, &QShortcut::activated, this, &main_window::open_trends);
+
+    port_report_ = new port_report(this);
 }
 
 main_window::~main_window() {
@@ -419,9 +422,12 @@ void main_window::sl_serial_connected() {
     ui->devices_widget->setEnabled(true);
     ui->connection_status_label->setText(tr("Connection status: CONNECTED"));
     ui->serial_combo_box->setEnabled(false);
+    port_report_->connected();
 }
 
 void main_window::sl_serial_disconnected() {
+    // Taken before a retry is asked for, which records its own.
+    const port_failure failure = serial_->take_open_failure();
     ui->connect_button->setChecked(false);
     ui->connect_button->setCheckable(false);
     ui->connect_button->setText(tr("Connect"));
@@ -433,6 +439,8 @@ void main_window::sl_serial_disconnected() {
     } else {
         ui->serial_combo_box->setEnabled(true);
     }
+    // A failed open says why; a closed or lost port has nothing to add.
+    port_report_->failed(failure);
 }
 
 void main_window::reconnect_later() {

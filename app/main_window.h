@@ -16,6 +16,7 @@ class QCloseEvent;
 class QTimer;
 class observation_hub;
 class panel_registry;
+class port_report;
 class serial_connector;
 class trend_window;
 
@@ -73,6 +74,9 @@ public:
     // Shows the live trend window (Ctrl+T), made on first use; closing it only hides it, so it
     // keeps collecting until the program ends.
     trend_window *open_trends();
+
+    // Says why the serial port could not be opened (status bar, and once in a box).
+    port_report *port_failures() const { return port_report_; }
 
 signals:
     void sig_init_connection(QString port_name);
@@ -135,4 +139,5 @@ private:
     bool keep_file_ = false;
     observation_hub *observations_ = nullptr;
     QPointer<trend_window> trends_;
+    port_report *port_report_ = nullptr;
 };

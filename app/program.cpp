@@ -9,11 +9,13 @@
 #include "recorder.h"
 #include "translation.h"
 #include "trend_window.h"
+#include "working_place.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDebug>
 #include <QFileInfo>
+#include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
 #include <QSettings>
@@ -62,6 +64,8 @@ void quit_on_signal(QObject *parent) {
 
 void prepare_program(QApplication &app, QTranslator &translator) {
     install_translation(app, translator, QLocale().uiLanguages());
+    // The menu entry's icon (the package installs it in every size of the icon theme).
+    app.setWindowIcon(QIcon(QStringLiteral(":/interface/lumivox_64.png")));
     // Every device created from now on finds its panel class here.
     register_panels(panel_registry::instance());
     quit_on_signal(&app);
@@ -95,6 +99,22 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
         QCoreApplication::translate(
             "program", "Write every frame sent and every line received to the debug log."));
     parser.addOptions({record, trends, log_wire});
+    // Where the run works (see working_place.h); from a terminal, the current directory.
+    const QCommandLineOption user_dir(
+        QStringLiteral("user-dir"),
+        QCoreApplication::translate(
+            "program",
+            "Work in the per-user directory ($XDG_CONFIG_HOME/lumivox/work, by default "
+            "~/.config/lumivox/work; made on first run) instead of the current directory. The "
+            "menu entry starts the program this way."));
+    const QCommandLineOption demo(
+        QStringLiteral("demo"),
+        QCoreApplication::translate(
+            "program",
+            "Try the program without hardware: start the device simulator (lumivox-sim) with one "
+            "device of every modelled type and connect to it, in a scratch directory."));
+    parser.addOption(user_dir);
+    parser.addOption(demo);
     parser.addPositionalArgument(
         QStringLiteral("file"), QCoreApplication::translate("program", "A recording for --trends."),
         QStringLiteral("[file]"));
@@ -134,6 +154,16 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
     options->record_dir = remembered.value(record_key).toString();
     options->trends = parser.isSet(trends);
     options->trends_file = files.value(0);
+    options->user_dir = parser.isSet(user_dir);
+    options->demo = parser.isSet(demo);
+    // Entered here, before anything reads or writes the configuration, whatever runs next.
+    if (options->user_dir && !options->demo) {
+        QString error;
+        if (!enter_user_working_dir(&error)) {
+            tell_start_failure(error);
+            return 1;
+        }
+    }
     return -1;
 }
 

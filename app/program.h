@@ -28,6 +28,8 @@ struct program_options {
     QString record_dir;   // where this run records what the devices report; empty: nowhere
     bool trends = false;  // open the live trend window with the main window
     QString trends_file;  // show this recording in a trend window instead of the main window
+    bool user_dir = false;  // work in the per-user directory (the menu entry's way)
+    bool demo = false;      // work with a simulator of its own, in a scratch directory
 };
 
 // Answers --help and --version before the window system is opened (they need no display): the

@@ -5,6 +5,8 @@
 #include <QDebug>
 #include <QMutexLocker>
 
+#include <utility>
+
 #include <poll.h>
 #include <unistd.h>
 
@@ -46,6 +48,11 @@ void serial_connector::set_port_name(const QString &name) {
     port_name_ = name;
 }
 
+port_failure serial_connector::take_open_failure() {
+    QMutexLocker lock(&name_lock_);
+    return std::exchange(open_failure_, port_failure());
+}
+
 void serial_connector::apply_settings(QSerialPort *port, const QString &name) {
     port->setPortName(name);
     port->setBaudRate(QSerialPort::Baud57600, QSerialPort::AllDirections);
@@ -85,8 +92,17 @@ void serial_connector::sl_serial_connect(QString name) {
 
     // A new port object has nothing to flush before it is open.
     if (!port_->open(QIODevice::ReadWrite)) {
+        const port_failure why = port_failure::classify(name, port_->error(), port_->errorString());
+        {
+            QMutexLocker lock(&name_lock_);
+            open_failure_ = why;
+        }
         emit sig_disconnected();
         return;
+    }
+    {
+        QMutexLocker lock(&name_lock_);
+        open_failure_ = port_failure();
     }
     publish_state();
     port_->flush();

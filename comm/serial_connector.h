@@ -7,6 +7,7 @@
 #include <QSerialPort>
 #include <QString>
 
+#include "port_failure.h"
 #include "worker_thread.h"
 
 #include <atomic>
@@ -48,6 +49,11 @@ public:
     // still take precedence.
     static void enable_wire_log();
 
+    // Why the last connect request could not open its port, handed over once: each failed open
+    // records it before sig_disconnected(), and the window takes it when that arrives (queued, so
+    // the record is there). `none` after a successful open and once taken.
+    port_failure take_open_failure();
+
 signals:
     void sig_tearing();
     void sig_connected();
@@ -77,6 +83,7 @@ private:
 
     mutable QMutex name_lock_;
     QString port_name_;
+    port_failure open_failure_;  // under name_lock_
     worker_thread worker_{QStringLiteral("serial_connector")};
     QSerialPort *port_ = nullptr;
     QByteArray buffer_;

@@ -407,6 +407,62 @@ QImage logo_power_version() {
     return img;
 }
 
+// ---- The program's icon (menu entry and window) ---------------------------------------------------
+
+// A blue tile with a laser diode on its left edge sending a red beam across it. Drawn on a
+// 256-unit grid and scaled, so every size is the same picture; the beam's glow is left out below
+// 32 pixels, where it would only blur the line.
+QImage program_icon(int size) {
+    QImage img = blank(size, size);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.scale(size / 256.0, size / 256.0);
+
+    const QRectF tile(8, 8, 240, 240);
+    QLinearGradient sky(tile.topLeft(), tile.bottomLeft());
+    sky.setColorAt(0, QColor(0x2f, 0x36, 0xe0));
+    sky.setColorAt(1, QColor(0x12, 0x16, 0x6e));
+    p.setPen(QPen(QColor(0x0c, 0x0f, 0x4a), 4));
+    p.setBrush(sky);
+    p.drawRoundedRect(tile, 44, 44);
+
+    // The beam: a glow, then the red line with a white-hot core.
+    const qreal y = 150;
+    if (size >= 32) {
+        QLinearGradient glow(QPointF(0, y - 34), QPointF(0, y + 34));
+        glow.setColorAt(0, QColor(255, 40, 40, 0));
+        glow.setColorAt(0.5, QColor(255, 60, 60, 150));
+        glow.setColorAt(1, QColor(255, 40, 40, 0));
+        p.setPen(Qt::NoPen);
+        p.setBrush(glow);
+        p.drawRect(QRectF(100, y - 34, 144, 68));
+    }
+    p.setBrush(QColor(0xff, 0x2a, 0x2a));
+    p.drawRect(QRectF(100, y - 13, 146, 26));
+    p.setBrush(QColor(0xff, 0xe4, 0xd8));
+    p.drawRect(QRectF(100, y - 5, 146, 10));
+
+    // The diode: a metal can with its window facing the beam, and its two legs.
+    QLinearGradient metal(QPointF(0, y - 44), QPointF(0, y + 44));
+    metal.setColorAt(0, QColor(0xf2, 0xf4, 0xf7));
+    metal.setColorAt(0.5, QColor(0xb4, 0xba, 0xc4));
+    metal.setColorAt(1, QColor(0x7c, 0x84, 0x90));
+    p.setPen(QPen(QColor(0x20, 0x24, 0x30), 5));
+    p.setBrush(metal);
+    p.drawRoundedRect(QRectF(36, y - 44, 68, 88), 14, 14);
+    p.setBrush(QColor(0x20, 0x24, 0x30));
+    p.drawRect(QRectF(96, y - 20, 16, 40));
+    p.setPen(QPen(QColor(0xd8, 0xdc, 0xe2), 10, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(QPointF(56, y + 48), QPointF(56, 226));
+    p.drawLine(QPointF(84, y + 48), QPointF(84, 226));
+
+    // Emission marks above the beam.
+    p.setPen(QPen(QColor(0xff, 0xd2, 0x3c), 12, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(QPointF(150, 92), QPointF(168, 52));
+    p.drawLine(QPointF(190, 96), QPointF(222, 66));
+    return img;
+}
+
 using drawer = std::function<QImage()>;
 
 const std::map<QString, drawer> &drawings() {
@@ -436,6 +492,14 @@ const std::map<QString, drawer> &drawings() {
         {"quibrel_logo_PNG.png", logo_quibrel},
         {"veltrano.png", logo_veltrano},
         {"power_version.png", logo_power_version},
+        {"lumivox_16.png", [] { return program_icon(16); }},
+        {"lumivox_22.png", [] { return program_icon(22); }},
+        {"lumivox_24.png", [] { return program_icon(24); }},
+        {"lumivox_32.png", [] { return program_icon(32); }},
+        {"lumivox_48.png", [] { return program_icon(48); }},
+        {"lumivox_64.png", [] { return program_icon(64); }},
+        {"lumivox_128.png", [] { return program_icon(128); }},
+        {"lumivox_256.png", [] { return program_icon(256); }},
     };
     return all;
 }

@@ -18,6 +18,7 @@ private slots:
         QTest::newRow("round switch") << "round_button_switch*" << QSize(48, 48) << 6 << 0.6;
         QTest::newRow("configuration icon") << "conf_icon*" << QSize(32, 32) << 3 << 0.4;
         QTest::newRow("emission lamp") << "emission_*" << QSize(32, 32) << 2 << 0.4;
+        QTest::newRow("program icon") << "lumivox_*" << QSize(64, 64) << 1 << 0.8;
     }
     void interface_images() {
         QFETCH(QString, pattern);

@@ -1,5 +1,7 @@
 // The main window against a real pseudo-terminal: port list, connect and disconnect, automatic
 // connection and the TTL tester's texts on the wire.
+#include "message_route.h"
+#include "port_report.h"
 #include "pty_pair.h"
 #include "test_app_support.h"
 
@@ -9,6 +11,16 @@ const QByteArray adapter_start = QByteArray("O\r\r\nS6\r\r\n").repeated(3);
 static QByteArray config_naming(const QString &port, const QByteArray &rest) {
     return "[General]\nprev_port=" + port.toUtf8() + "\n" + rest;
 }
+
+// Collects the text of every box the program asks while it lives.
+struct box_log {
+    QStringList texts;
+    message_answerer previous = set_message_answerer([this](const message_request &request) {
+        texts << request.text;
+        return QMessageBox::Ok;
+    });
+    ~box_log() { set_message_answerer(previous); }
+};
 
 class test_main_window_serial : public QObject {
     Q_OBJECT
@@ -63,8 +75,10 @@ private slots:
     }
 
     // A missing adapter is retried, never more often than the reconnect gap, until switched off.
+    // Each retry says in the status bar that the adapter is unplugged; the box comes once.
     void automatic_connection_retries_without_spinning() {
         scratch_dir dir(config_naming("/nonexistent/port", "autoconnection_mode=true\n"));
+        box_log boxes;
         auto window = loaded_window();
         QElapsedTimer clock;
         clock.start();
@@ -75,10 +89,66 @@ private slots:
         for (qint64 gap : gaps_ms.mid(1)) {
             QVERIFY(gap >= main_window::reconnect_gap_ms - 1);  // 1 ms for truncation
         }
+        QCOMPARE(boxes.texts.size(), 1);
+        QVERIFY2(boxes.texts.first().contains("/nonexistent/port") &&
+                     boxes.texts.first().contains("unplugged"),
+                 qPrintable(boxes.texts.first()));
+        QVERIFY2(window->statusBar()->currentMessage().contains("unplugged"),
+                 qPrintable(window->statusBar()->currentMessage()));
         widget<QCheckBox>(*window, "autoconnection_checkbox")->setChecked(false);
         QTRY_VERIFY(widget(*window, "serial_combo_box")->isEnabled());
         QSignalSpy more(window.get(), &main_window::sig_init_connection);
         QVERIFY(!more.wait(2 * main_window::reconnect_gap_ms));
+    }
+
+    // Why a port could not be opened, in words the operator can act on: in the status bar every
+    // time, in a box once until the port opens or the reason changes.
+    void port_failures_are_told_once_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("permission: join dialout")
+            << int(port_failure::permission)
+            << QStringList{"/dev/ttyUSB7", "permission denied", "\"dialout\" group",
+                           "sudo adduser $USER dialout", "log in again"};
+        QTest::newRow("busy: another program") << int(port_failure::busy)
+                                               << QStringList{"/dev/ttyUSB7", "another program"};
+        QTest::newRow("missing: unplugged") << int(port_failure::missing)
+                                            << QStringList{"/dev/ttyUSB7", "unplugged"};
+        QTest::newRow("no port chosen") << int(port_failure::no_port)
+                                        << QStringList{"No serial port", "Settings page"};
+        QTest::newRow("anything else: the system's words")
+            << int(port_failure::other) << QStringList{"/dev/ttyUSB7", "Input/output error"};
+    }
+    void port_failures_are_told_once() {
+        QFETCH(int, kind);
+        QFETCH(QStringList, words);
+        scratch_dir dir(config_naming("", ""));
+        box_log boxes;
+        auto window = loaded_window();
+        const port_failure failure{port_failure::kind(kind), "/dev/ttyUSB7", "Input/output error"};
+        const auto told = [&] { return window->statusBar()->currentMessage(); };
+        window->port_failures()->failed(failure);
+        window->port_failures()->failed(failure);  // a retry
+        QTRY_COMPARE(boxes.texts.size(), 1);
+        // The box has it in full, the status bar in short; both have the words that matter.
+        for (const QString &word : words) {
+            QVERIFY2(told().contains(word), qPrintable(told()));
+            QVERIFY2(boxes.texts.first().contains(word), qPrintable(boxes.texts.first()));
+        }
+        // The short form fits the status bar of the window at its first size.
+        QVERIFY(window->statusBar()->fontMetrics().horizontalAdvance(told()) <
+                window->width());
+        QVERIFY(!QTest::qWaitFor([&] { return boxes.texts.size() > 1; }, 100));
+
+        // Once the port has opened, the message goes and the next failure has its box again.
+        window->port_failures()->connected();
+        QCOMPARE(told(), QString());
+        window->port_failures()->failed(failure);
+        QTRY_COMPARE(boxes.texts.size(), 2);
+        // Nothing to tell: a port closed on request.
+        const QString before = told();
+        window->port_failures()->failed(port_failure());
+        QCOMPARE(told(), before);
     }
 
     // Devices at CAN IDs no frame can carry are named in a warning and send nothing; the others

@@ -88,12 +88,43 @@ class test_serial_connector : public QObject {
     };
 
 private slots:
+    // A failed open is a disconnection, with the reason kept for the window to tell.
+    void open_failure_reports_disconnected_data() {
+        QTest::addColumn<QString>("port");  // "pty": the test's pseudo-terminal
+        QTest::addColumn<bool>("held");     // by another program (here: a port of the test's own)
+        QTest::addColumn<int>("kind");
+        QTest::newRow("missing") << "/dev/lumivox-no-such-port" << false
+                                 << int(port_failure::missing);
+        QTest::newRow("missing, named without /dev") << "lumivox-no-such-port" << false
+                                                     << int(port_failure::missing);
+        QTest::newRow("none chosen") << "" << false << int(port_failure::no_port);
+        QTest::newRow("held by another program") << "pty" << true << int(port_failure::busy);
+    }
     void open_failure_reports_disconnected() {
+        QFETCH(QString, port);
+        QFETCH(bool, held);
+        QFETCH(int, kind);
         open_link l;
-        in_link_thread(l.link, [&l] { l.link.sl_init_connection("/dev/lumivox-no-such-port"); });
+        if (port == "pty") {
+            port = l.pty.slave_path();
+        }
+        QSerialPort holder(port);
+        QVERIFY(!held || holder.open(QIODevice::ReadWrite));
+        in_link_thread(l.link, [&l, port] { l.link.sl_init_connection(port); });
         QVERIFY(l.disconnected.wait_for(1));
         QCOMPARE(l.connected.count(), 0);
-        QCOMPARE(l.link.port_name(), QStringLiteral("/dev/lumivox-no-such-port"));
+        QCOMPARE(l.link.port_name(), port);
+        const port_failure failure = l.link.take_open_failure();
+        QCOMPARE(int(failure.what), kind);
+        QCOMPARE(failure.port, port);
+        QCOMPARE(int(l.link.take_open_failure().what), int(port_failure::none));  // told once
+
+        // The next open that succeeds leaves nothing to tell.
+        holder.close();
+        if (held) {
+            QVERIFY(l.open());
+            QCOMPARE(int(l.link.take_open_failure().what), int(port_failure::none));
+        }
     }
 
     void a_backed_up_line_delays_frames_without_losing_them() {
