@@ -1,0 +1,225 @@
+#include "settings_compare_dialog.h"
+
+#include "message_route.h"
+#include "panel_base.h"
+#include "settings_actions.h"
+
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+using device_settings::compared_row;
+using device_settings::shown_value;
+
+namespace {
+
+enum column { row_column, device_column, file_column, mark_column, column_count };
+
+// Rows that a restore would change stand out; rows it leaves alone are greyed.
+const QColor changed_background(255, 236, 179);
+const QColor left_alone_text(110, 110, 110);
+
+}  // namespace
+
+settings_compare_dialog::settings_compare_dialog(panel_base *panel, const QString &path,
+                                                 const device_settings::snapshot &file,
+                                                 QWidget *parent)
+    : QDialog(parent), panel_(panel), file_(file) {
+    setWindowTitle(panel->display_name() + tr(": settings from file"));
+    setModal(true);
+
+    auto *outer = new QVBoxLayout(this);
+    auto *source = new QLabel(this);
+    source->setObjectName(QStringLiteral("file_source"));
+    source->setWordWrap(true);
+    source->setText(tr("<b>%1</b><br>saved %2 by %3 from %4 \"%5\" at CAN ID %6")
+                        .arg(QFileInfo(path).fileName().toHtmlEscaped(),
+                             file.saved.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")),
+                             file.program.toHtmlEscaped(), file.model.toHtmlEscaped(),
+                             file.name.toHtmlEscaped())
+                        .arg(file.can_id));
+    outer->addWidget(source);
+
+    table_ = new QTableWidget(this);
+    table_->setObjectName(QStringLiteral("comparison_table"));
+    table_->setColumnCount(column_count);
+    table_->setHorizontalHeaderLabels(
+        {tr("Row"), tr("In the device"), tr("In the file"), tr("")});
+    table_->verticalHeader()->hide();
+    table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table_->setSelectionMode(QAbstractItemView::NoSelection);
+    table_->setFocusPolicy(Qt::NoFocus);
+    table_->horizontalHeader()->setSectionResizeMode(row_column, QHeaderView::Stretch);
+    for (int c : {device_column, file_column, mark_column}) {
+        table_->horizontalHeader()->setSectionResizeMode(c, QHeaderView::ResizeToContents);
+    }
+    outer->addWidget(table_);
+
+    summary_ = new QLabel(this);
+    summary_->setObjectName(QStringLiteral("comparison_summary"));
+    summary_->setWordWrap(true);
+    outer->addWidget(summary_);
+
+    can_id_box_ = new QCheckBox(this);
+    can_id_box_->setObjectName(QStringLiteral("write_can_id_box"));
+    outer->addWidget(can_id_box_);
+
+    result_ = new QLabel(this);
+    result_->setObjectName(QStringLiteral("restore_result"));
+    result_->setWordWrap(true);
+    result_->hide();
+    outer->addWidget(result_);
+
+    auto *buttons = new QHBoxLayout;
+    write_button_ = new QPushButton(tr("Write changed rows"), this);
+    write_button_->setObjectName(QStringLiteral("write_changed_button"));
+    write_button_->setAutoDefault(false);
+    auto *close = new QPushButton(tr("Close"), this);
+    close->setObjectName(QStringLiteral("close_button"));
+    close->setAutoDefault(false);
+    buttons->addStretch();
+    buttons->addWidget(close);
+    buttons->addWidget(write_button_);
+    outer->addLayout(buttons);
+
+    connect(close, &QPushButton::clicked, this, &QDialog::close);
+    connect(write_button_, &QPushButton::clicked, this,
+            &settings_compare_dialog::write_changed_rows);
+    connect(can_id_box_, &QCheckBox::toggled, this, &settings_compare_dialog::show_comparison);
+    // The device column follows the reports, during a restore too.
+    connect(panel, &panel_base::sig_parameter_reported, this,
+            &settings_compare_dialog::show_comparison);
+    show_comparison();
+
+    // Tall enough for every row of the largest parameter list without scrolling.
+    table_->resizeColumnsToContents();
+    const int rows_height = table_->verticalHeader()->length() +
+                            table_->horizontalHeader()->height() + 2 * table_->frameWidth();
+    table_->setMinimumHeight(qMin(rows_height, 560));
+    setMinimumWidth(560);
+}
+
+device_settings::comparison settings_compare_dialog::current() const {
+    if (!panel_) {
+        return {};
+    }
+    return device_settings::compare(settings_actions::device_rows(*panel_), file_);
+}
+
+void settings_compare_dialog::show_comparison() {
+    const device_settings::comparison now = current();
+    const bool with_can_id = can_id_box_->isChecked();
+    table_->setRowCount(now.rows.size());
+    int differing = 0;
+    const compared_row *can_id_row = nullptr;
+    for (int i = 0; i < now.rows.size(); ++i) {
+        const compared_row &row = now.rows[i];
+        QString mark;
+        bool left_alone = false;
+        if (!row.in_file()) {
+            mark = tr("not in the file: left as it is");
+            left_alone = true;
+        } else if (row.differs() && row.is_can_id() && !with_can_id) {
+            mark = tr("differs: kept unless ticked below");
+            left_alone = true;
+        } else if (row.differs()) {
+            mark = tr("changed");
+        }
+        if (row.is_can_id() && row.differs()) {
+            can_id_row = &row;
+        }
+        differing += row.differs() ? 1 : 0;
+        const QString texts[column_count] = {
+            row.label, shown_value(row.device_wire, row.decimals),
+            row.in_file() ? shown_value(*row.file_wire, row.decimals) : tr("(none)"), mark};
+        for (int c = 0; c < column_count; ++c) {
+            QTableWidgetItem *item = table_->item(i, c);
+            if (!item) {
+                item = new QTableWidgetItem;
+                table_->setItem(i, c, item);
+            }
+            item->setText(texts[c]);
+            item->setTextAlignment(c == device_column || c == file_column
+                                       ? Qt::AlignRight | Qt::AlignVCenter
+                                       : Qt::AlignLeft | Qt::AlignVCenter);
+            QFont font = item->font();
+            font.setBold(row.differs() && !left_alone);
+            item->setFont(font);
+            item->setBackground(row.differs() && !left_alone ? QBrush(changed_background)
+                                                             : QBrush());
+            item->setForeground(left_alone ? QBrush(left_alone_text) : QBrush());
+        }
+    }
+
+    const int to_write = now.to_write(with_can_id).size();
+    QStringList lines;
+    if (differing == 0) {
+        lines << tr("The device holds the file's values.");
+    } else {
+        lines << tr("%1 of %2 rows differ; %n will be written.", "", to_write)
+                     .arg(differing)
+                     .arg(now.rows.size());
+    }
+    const QStringList missing = now.missing_from_file();
+    if (!missing.isEmpty()) {
+        lines << tr("The file lacks %1: left as it is in the device.")
+                     .arg(missing.join(QStringLiteral(", ")));
+    }
+    if (!now.only_in_file.isEmpty()) {
+        lines << tr("The file also holds %1, which this device does not have: not written.")
+                     .arg(now.only_in_file.join(QStringLiteral(", ")));
+    }
+    summary_->setText(lines.join(QLatin1Char('\n')));
+
+    can_id_box_->setVisible(can_id_row != nullptr);
+    if (can_id_row) {
+        can_id_box_->setText(
+            tr("Also write the CAN ID row (%1 to %2; the device answers at the new address "
+               "after a reset)")
+                .arg(shown_value(can_id_row->device_wire, 0), shown_value(*can_id_row->file_wire, 0)));
+    }
+    const bool busy = restore_ && restore_->running();
+    write_button_->setEnabled(!busy && to_write > 0);
+    can_id_box_->setEnabled(!busy);
+}
+
+void settings_compare_dialog::write_changed_rows() {
+    if (!panel_ || (restore_ && restore_->running())) {
+        return;
+    }
+    const device_settings::comparison now = current();
+    const bool with_can_id = can_id_box_->isChecked();
+    const int rows = now.to_write(with_can_id).size();
+    if (rows == 0) {
+        return;
+    }
+    if (!confirm(this, tr("Restore settings"),
+                 tr("Write %n changed row(s) from the file to %1?", "", rows)
+                     .arg(panel_->display_name()))) {
+        return;
+    }
+    // The restore belongs to the panel: closing this window does not cut it short.
+    restore_ = new settings_restore(panel_, now, with_can_id, panel_);
+    connect(restore_, &settings_restore::sig_finished, this, &settings_compare_dialog::restored);
+    connect(restore_, &settings_restore::sig_finished, restore_, &QObject::deleteLater);
+    result_->setText(tr("Writing %n row(s), then reading every row back...", "", rows));
+    result_->show();
+    restore_->start();
+    show_comparison();
+}
+
+void settings_compare_dialog::restored(const settings_restore::outcome &outcome) {
+    const QString text = settings_restore::describe(outcome);
+    result_->setText(text);
+    result_->show();
+    show_comparison();
+    if (!outcome.ok()) {
+        inform(this, tr("Restore settings"), text);
+    }
+    emit sig_finished(outcome);
+}

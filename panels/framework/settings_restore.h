@@ -1,0 +1,81 @@
+#pragma once
+
+#include "device_settings.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QSet>
+#include <QString>
+#include <QVector>
+
+#include <optional>
+
+class QTimer;
+class panel_base;
+
+// Puts a settings file's rows back on a device through its panel, the way the operator's own
+// changes go: each row that differs is written (and asked back), every other row the file holds is
+// asked for again, and once each has been reported after its request, the device's values are
+// checked against the file. Then the store command(s) go out, followed by one more read whose
+// answer shows that they have left the program.
+//
+// The CAN ID row is written and checked only when asked for (`with_can_id`). The store command
+// follows the check whatever it found, so that the device keeps what it runs with; the rows that
+// did not take are named in the outcome.
+class settings_restore : public QObject {
+    Q_OBJECT
+public:
+    // A device that answers none of the requests for this long has stopped answering.
+    static constexpr int silence_ms = 5000;
+
+    struct mismatch {
+        device_settings::compared_row row;
+        std::optional<qint64> held;  // what the device reported back; none: never reported
+    };
+    struct outcome {
+        bool complete = false;  // every row was read back; otherwise `failure` says why not
+        QString failure;
+        int written = 0;       // rows written
+        int checked = 0;       // rows read back and compared
+        bool stored = false;   // the store command(s) have been sent
+        QVector<mismatch> not_taken;
+        QStringList left_alone;  // rows the file lacks, and the CAN ID row when not asked for
+
+        bool ok() const { return complete && not_taken.isEmpty(); }
+    };
+
+    settings_restore(panel_base *panel, const device_settings::comparison &plan, bool with_can_id,
+                     QObject *parent = nullptr);
+
+    // Queues the writes and reads; sig_finished() follows (at once when nothing differs).
+    void start();
+    bool running() const { return stage_ != stage::idle && stage_ != stage::done; }
+
+    // What happened, in sentences for the operator: what was written and stored, which rows did
+    // not take (with the device's and the file's values), which were left alone.
+    static QString describe(const outcome &result);
+
+signals:
+    void sig_finished(const settings_restore::outcome &result);
+
+private:
+    enum class stage { idle, reading, storing, done };
+
+    void sent(int code, long value);
+    void reported(int code, qint64 wire);
+    void all_read_back();
+    void finish(bool complete, const QString &failure);
+
+    QPointer<panel_base> panel_;
+    QVector<device_settings::compared_row> write_;
+    QVector<device_settings::compared_row> check_;
+    QSet<int> pending_;  // rows not yet read back
+    QSet<int> asked_;    // rows whose read request has been sent
+    QHash<int, qint64> read_back_;
+    int fence_code_ = -1;
+    bool fence_asked_ = false;
+    stage stage_ = stage::idle;
+    outcome result_;
+    QTimer *silence_ = nullptr;
+};
