@@ -36,8 +36,7 @@ settings_compare_dialog::settings_compare_dialog(panel_base *panel, const QStrin
     auto *outer = new QVBoxLayout(this);
     auto *source = new QLabel(this);
     source->setObjectName(QStringLiteral("file_source"));
-    source->setWordWrap(true);
-    source->setText(tr("<b>%1</b><br>saved %2 by %3 from %4 \"%5\" at CAN ID %6")
+    source->setText(tr("<b>%1</b><br>saved %2 by %3<br>from %4 \"%5\" at CAN ID %6")
                         .arg(QFileInfo(path).fileName().toHtmlEscaped(),
                              file.saved.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")),
                              file.program.toHtmlEscaped(), file.model.toHtmlEscaped(),
@@ -54,15 +53,13 @@ settings_compare_dialog::settings_compare_dialog(panel_base *panel, const QStrin
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setSelectionMode(QAbstractItemView::NoSelection);
     table_->setFocusPolicy(Qt::NoFocus);
-    table_->horizontalHeader()->setSectionResizeMode(row_column, QHeaderView::Stretch);
-    for (int c : {device_column, file_column, mark_column}) {
-        table_->horizontalHeader()->setSectionResizeMode(c, QHeaderView::ResizeToContents);
-    }
+    table_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table_->horizontalHeader()->setStretchLastSection(true);
+    table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     outer->addWidget(table_);
 
     summary_ = new QLabel(this);
     summary_->setObjectName(QStringLiteral("comparison_summary"));
-    summary_->setWordWrap(true);
     outer->addWidget(summary_);
 
     can_id_box_ = new QCheckBox(this);
@@ -96,12 +93,20 @@ settings_compare_dialog::settings_compare_dialog(panel_base *panel, const QStrin
             &settings_compare_dialog::show_comparison);
     show_comparison();
 
-    // Tall enough for every row of the largest parameter list without scrolling.
+    // Wide enough for every column and tall enough for every row of the longest parameter list,
+    // so that nothing needs scrolling.
     table_->resizeColumnsToContents();
-    const int rows_height = table_->verticalHeader()->length() +
-                            table_->horizontalHeader()->height() + 2 * table_->frameWidth();
-    table_->setMinimumHeight(qMin(rows_height, 560));
-    setMinimumWidth(560);
+    table_->resizeRowsToContents();
+    int width = 2 * table_->frameWidth();
+    for (int c = 0; c < column_count; ++c) {
+        width += table_->horizontalHeader()->sectionSize(c);
+    }
+    const int height = table_->verticalHeader()->length() +
+                       table_->horizontalHeader()->sizeHint().height() + 2 * table_->frameWidth();
+    table_->setMinimumWidth(width);
+    table_->setFixedHeight(qMin(height, 600));
+    // The window never shrinks below what its texts and the table need.
+    outer->setSizeConstraint(QLayout::SetMinimumSize);
 }
 
 device_settings::comparison settings_compare_dialog::current() const {
@@ -122,10 +127,10 @@ void settings_compare_dialog::show_comparison() {
         QString mark;
         bool left_alone = false;
         if (!row.in_file()) {
-            mark = tr("not in the file: left as it is");
+            mark = tr("not in the file");
             left_alone = true;
         } else if (row.differs() && row.is_can_id() && !with_can_id) {
-            mark = tr("differs: kept unless ticked below");
+            mark = tr("kept");
             left_alone = true;
         } else if (row.differs()) {
             mark = tr("changed");
@@ -166,12 +171,15 @@ void settings_compare_dialog::show_comparison() {
                      .arg(now.rows.size());
     }
     const QStringList missing = now.missing_from_file();
+    if (can_id_row && !with_can_id) {
+        lines << tr("The CAN ID row is kept unless ticked below.");
+    }
     if (!missing.isEmpty()) {
-        lines << tr("The file lacks %1: left as it is in the device.")
+        lines << tr("Not in the file, left as in the device: %1.")
                      .arg(missing.join(QStringLiteral(", ")));
     }
     if (!now.only_in_file.isEmpty()) {
-        lines << tr("The file also holds %1, which this device does not have: not written.")
+        lines << tr("In the file but not in this device, not written: %1.")
                      .arg(now.only_in_file.join(QStringLiteral(", ")));
     }
     summary_->setText(lines.join(QLatin1Char('\n')));
@@ -179,8 +187,7 @@ void settings_compare_dialog::show_comparison() {
     can_id_box_->setVisible(can_id_row != nullptr);
     if (can_id_row) {
         can_id_box_->setText(
-            tr("Also write the CAN ID row (%1 to %2; the device answers at the new address "
-               "after a reset)")
+            tr("Also write the CAN ID row (%1 to %2, taken at the next device reset)")
                 .arg(shown_value(can_id_row->device_wire, 0), shown_value(*can_id_row->file_wire, 0)));
     }
     const bool busy = restore_ && restore_->running();
