@@ -1,3 +1,4 @@
+#include "device_service.h"
 #include "main_window.h"
 #include "program.h"
 #include "recorder.h"
@@ -13,6 +14,7 @@ int main(int argc, char *argv[]) {
     if (const int code = answer_help(argc, argv); code >= 0) {
         return code;
     }
+    device_service::prefer_offscreen(argc, argv);
     QApplication app(argc, argv);
     QTranslator translator;
     prepare_program(app, translator);
@@ -20,6 +22,9 @@ int main(int argc, char *argv[]) {
     const std::unique_ptr<QSettings> settings(open_program_settings());
     if (const int code = take_command_line(app.arguments(), *settings, &options); code >= 0) {
         return code;
+    }
+    if (device_service::requested(options)) {
+        return device_service::run(options);
     }
 
     if (!options.trends_file.isEmpty()) {

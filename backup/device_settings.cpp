@@ -75,6 +75,10 @@ QString shown_value(qint64 wire, int decimals) {
     return negative ? QLatin1Char('-') + digits : digits;
 }
 
+QString row_count(int rows) {
+    return rows == 1 ? tr("1 row") : tr("%1 rows").arg(rows);
+}
+
 QString program_version() {
     return QStringLiteral("lumivox v5.") + QString::fromLatin1(build_info::commit).left(6);
 }
@@ -303,7 +307,7 @@ QStringList comparison::missing_from_file() const {
 QString refusal(int device_type, const QString &device_model, const snapshot &file) {
     if (device_type != file.type_id) {
         return tr("the file holds the rows of a %1 (device type %2); this device is a %3 (type "
-                  "%4): nothing was written")
+                  "%4)")
             .arg(file.model)
             .arg(file.type_id)
             .arg(device_model)

@@ -65,6 +65,9 @@ struct snapshot {
 // computed on the integer (no rounding).
 QString shown_value(qint64 wire, int decimals);
 
+// "1 row", "2 rows".
+QString row_count(int rows);
+
 // The program's version as it names itself ("lumivox v5." and the first six digits of its commit).
 QString program_version();
 

@@ -166,9 +166,10 @@ void settings_compare_dialog::show_comparison() {
     if (differing == 0) {
         lines << tr("The device holds the file's values.");
     } else {
-        lines << tr("%1 of %2 rows differ; %n will be written.", "", to_write)
+        lines << tr("Rows that differ: %1 of %2; to be written: %3.")
                      .arg(differing)
-                     .arg(now.rows.size());
+                     .arg(now.rows.size())
+                     .arg(to_write);
     }
     const QStringList missing = now.missing_from_file();
     if (can_id_row && !with_can_id) {
@@ -206,15 +207,16 @@ void settings_compare_dialog::write_changed_rows() {
         return;
     }
     if (!confirm(this, tr("Restore settings"),
-                 tr("Write %n changed row(s) from the file to %1?", "", rows)
-                     .arg(panel_->display_name()))) {
+                 tr("Write %1 from the file to %2?")
+                     .arg(device_settings::row_count(rows), panel_->display_name()))) {
         return;
     }
     // The restore belongs to the panel: closing this window does not cut it short.
     restore_ = new settings_restore(panel_, now, with_can_id, panel_);
     connect(restore_, &settings_restore::sig_finished, this, &settings_compare_dialog::restored);
     connect(restore_, &settings_restore::sig_finished, restore_, &QObject::deleteLater);
-    result_->setText(tr("Writing %n row(s), then reading every row back...", "", rows));
+    result_->setText(tr("Writing %1, then reading every row back...")
+                         .arg(device_settings::row_count(rows)));
     result_->show();
     restore_->start();
     show_comparison();

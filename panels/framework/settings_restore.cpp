@@ -134,11 +134,11 @@ QString settings_restore::describe(const outcome &result) {
     if (result.written == 0 && result.complete) {
         lines << tr("The device already holds the file's values: nothing was written.");
     } else if (result.ok()) {
-        lines << tr("%n changed row(s) written; every row read back holds the file's value", "",
-                    result.written) +
+        lines << tr("%1 written; every row read back holds the file's value")
+                         .arg(device_settings::row_count(result.written)) +
                      (result.stored ? tr("; stored in the device.") : QStringLiteral("."));
     } else {
-        lines << tr("%n changed row(s) written", "", result.written) +
+        lines << tr("%1 written").arg(device_settings::row_count(result.written)) +
                      (result.stored ? tr(", then stored in the device.") : tr(", not stored."));
         QStringList rows;
         for (const mismatch &m : result.not_taken) {
