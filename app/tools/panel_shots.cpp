@@ -216,6 +216,11 @@ int main(int argc, char *argv[]) {
             QString error;
             if (device_settings::write_file(path, file, &error)) {
                 if (auto *compare = settings_actions::load(panel, path, dialog)) {
+                    // The window asks for every row again: send the requests, answer them.
+                    while (panel->queued_commands() > 0) {
+                        panel->sl_refresh_state();
+                    }
+                    feed(*panel, type);
                     compare->adjustSize();
                     save(compare, base + QStringLiteral("_compare.png"));
                     compare->close();

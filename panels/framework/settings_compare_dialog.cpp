@@ -91,6 +91,11 @@ settings_compare_dialog::settings_compare_dialog(panel_base *panel, const QStrin
     // The device column follows the reports, during a restore too.
     connect(panel, &panel_base::sig_parameter_reported, this,
             &settings_compare_dialog::show_comparison);
+    fresh_ = new row_read_back(panel, this);
+    connect(fresh_, &row_read_back::sig_complete, this, &settings_compare_dialog::show_comparison);
+    for (const parameter_record &record : panel->parameters()) {
+        fresh_->ask(record.code);
+    }
     show_comparison();
 
     // Wide enough for every column and tall enough for every row of the longest parameter list,
@@ -107,6 +112,10 @@ settings_compare_dialog::settings_compare_dialog(panel_base *panel, const QStrin
     table_->setFixedHeight(qMin(height, 600));
     // The window never shrinks below what its texts and the table need.
     outer->setSizeConstraint(QLayout::SetMinimumSize);
+}
+
+bool settings_compare_dialog::device_read() const {
+    return fresh_->complete();
 }
 
 device_settings::comparison settings_compare_dialog::current() const {
@@ -163,7 +172,9 @@ void settings_compare_dialog::show_comparison() {
 
     const int to_write = now.to_write(with_can_id).size();
     QStringList lines;
-    if (differing == 0) {
+    if (!device_read()) {
+        lines << tr("Reading the device's rows...");
+    } else if (differing == 0) {
         lines << tr("The device holds the file's values.");
     } else {
         lines << tr("Rows that differ: %1 of %2; to be written: %3.")
@@ -192,12 +203,12 @@ void settings_compare_dialog::show_comparison() {
                 .arg(shown_value(can_id_row->device_wire, 0), shown_value(*can_id_row->file_wire, 0)));
     }
     const bool busy = restore_ && restore_->running();
-    write_button_->setEnabled(!busy && to_write > 0);
+    write_button_->setEnabled(!busy && device_read() && to_write > 0);
     can_id_box_->setEnabled(!busy);
 }
 
 void settings_compare_dialog::write_changed_rows() {
-    if (!panel_ || (restore_ && restore_->running())) {
+    if (!panel_ || !device_read() || (restore_ && restore_->running())) {
         return;
     }
     const device_settings::comparison now = current();

@@ -13,7 +13,9 @@ class QTableWidget;
 class panel_base;
 
 // A settings file beside what the device holds now: one line per configuration row with the value
-// in the device and the value in the file, the rows that differ marked. "Write changed rows" asks
+// in the device and the value in the file, the rows that differ marked. Opening it asks the device
+// for every row again, so that the comparison is with what the device holds, not with what it
+// held when it was first read. "Write changed rows" asks
 // once, then writes only those rows, reads every row back, checks and stores (settings_restore),
 // and says plainly what took and what did not. The CAN ID row is written only when its box is
 // ticked, so that copying one device's rows onto another does not take its address.
@@ -25,6 +27,8 @@ public:
 
     // The comparison with the device's values as last reported.
     device_settings::comparison current() const;
+    // Every row has been read again since the window opened (writing waits for it).
+    bool device_read() const;
 
     QTableWidget *table() const { return table_; }
     QCheckBox *can_id_box() const { return can_id_box_; }
@@ -51,4 +55,5 @@ private:
     QPushButton *write_button_ = nullptr;
     QLabel *result_ = nullptr;
     QPointer<settings_restore> restore_;
+    row_read_back *fresh_ = nullptr;
 };

@@ -7,6 +7,40 @@
 using device_settings::compared_row;
 using device_settings::shown_value;
 
+row_read_back::row_read_back(panel_base *panel, QObject *parent)
+    : QObject(parent), panel_(panel) {
+    if (panel_) {
+        connect(panel_, &panel_base::sig_w_send_command, this, &row_read_back::sent);
+        connect(panel_, &panel_base::sig_parameter_reported, this, &row_read_back::reported);
+    }
+}
+
+void row_read_back::ask(int code) {
+    pending_.insert(code);
+    if (panel_) {
+        panel_->read_parameter(code);
+    }
+}
+
+void row_read_back::sent(int code, long value) {
+    if (code >= 128 && value == 0 && pending_.contains(code - 128)) {
+        asked_.insert(code - 128);
+    }
+}
+
+void row_read_back::reported(int code, qint64 wire) {
+    if (!pending_.contains(code) || !asked_.contains(code)) {
+        return;
+    }
+    values_.insert(code, wire);
+    pending_.remove(code);
+    asked_.remove(code);
+    emit sig_progress();
+    if (pending_.isEmpty()) {
+        emit sig_complete();
+    }
+}
+
 settings_restore::settings_restore(panel_base *panel, const device_settings::comparison &plan,
                                    bool with_can_id, QObject *parent)
     : QObject(parent),
@@ -40,67 +74,46 @@ void settings_restore::start() {
         return;
     }
     stage_ = stage::reading;
-    connect(panel_, &panel_base::sig_w_send_command, this, &settings_restore::sent);
-    connect(panel_, &panel_base::sig_parameter_reported, this, &settings_restore::reported);
     // A device that changes type or goes silent loses its panel.
     connect(panel_, &QObject::destroyed, this, [this] {
         finish(false, tr("the device was lost (it stopped answering or changed its type)"));
     });
+    reading_ = new row_read_back(panel_, this);
+    connect(reading_, &row_read_back::sig_progress, silence_, qOverload<>(&QTimer::start));
+    connect(reading_, &row_read_back::sig_complete, this, &settings_restore::all_read_back);
     QSet<int> writing;
     for (const compared_row &row : qAsConst(write_)) {
         panel_->write_parameter(row.code, *row.file_wire);
+        reading_->expect(row.code);
         writing.insert(row.code);
     }
     for (const compared_row &row : qAsConst(check_)) {
         if (!writing.contains(row.code)) {
-            panel_->read_parameter(row.code);
+            reading_->ask(row.code);
         }
-        pending_.insert(row.code);
     }
     result_.written = write_.size();
     silence_->start();
 }
 
-void settings_restore::sent(int code, long value) {
-    if (code < 128 || value != 0) {
-        return;
-    }
-    const int row = code - 128;
-    if (stage_ == stage::reading && pending_.contains(row)) {
-        asked_.insert(row);
-    } else if (stage_ == stage::storing && row == fence_code_) {
-        fence_asked_ = true;
-    }
-}
-
-void settings_restore::reported(int code, qint64 wire) {
-    if (stage_ == stage::reading && pending_.contains(code) && asked_.contains(code)) {
-        read_back_.insert(code, wire);
-        pending_.remove(code);
-        silence_->start();
-        if (pending_.isEmpty()) {
-            all_read_back();
-        }
-    } else if (stage_ == stage::storing && code == fence_code_ && fence_asked_) {
-        result_.stored = true;
-        finish(true, {});
-    }
-}
-
 void settings_restore::all_read_back() {
     for (const compared_row &row : qAsConst(check_)) {
-        const qint64 held = read_back_.value(row.code);
+        const qint64 held = reading_->values().value(row.code);
         if (held != *row.file_wire) {
             result_.not_taken.append(mismatch{row, held});
         }
     }
     result_.checked = check_.size();
-    // The store commands leave the queue before the read behind them; its answer proves that they
+    // The store commands leave the queue before the read behind them; its answer shows that they
     // went out.
     stage_ = stage::storing;
-    fence_code_ = check_.first().code;
     panel_->store_parameters();
-    panel_->read_parameter(fence_code_);
+    fence_ = new row_read_back(panel_, this);
+    connect(fence_, &row_read_back::sig_complete, this, [this] {
+        result_.stored = true;
+        finish(true, {});
+    });
+    fence_->ask(check_.first().code);
     silence_->start();
 }
 
@@ -111,13 +124,22 @@ void settings_restore::finish(bool complete, const QString &failure) {
     if (stage_ == stage::reading) {
         // Rows never read back are not known to have taken.
         for (const compared_row &row : qAsConst(check_)) {
-            if (pending_.contains(row.code)) {
+            if (reading_->pending().contains(row.code)) {
                 result_.not_taken.append(mismatch{row, std::nullopt});
             }
         }
     }
     stage_ = stage::done;
     silence_->stop();
+    // Either may be the sender of the signal that ended the restore.
+    for (row_read_back *reader : {reading_, fence_}) {
+        if (reader) {
+            reader->disconnect(this);
+            reader->deleteLater();
+        }
+    }
+    reading_ = nullptr;
+    fence_ = nullptr;
     if (panel_) {
         disconnect(panel_, nullptr, this, nullptr);
     }

@@ -14,6 +14,40 @@
 class QTimer;
 class panel_base;
 
+// Collects configuration rows as a device reports them after they were asked for: a row counts
+// once its read request has left the panel's queue and the device has answered it, so an answer
+// to an older request is never taken for the new value.
+class row_read_back : public QObject {
+    Q_OBJECT
+public:
+    explicit row_read_back(panel_base *panel, QObject *parent = nullptr);
+
+    // Asks for the row (code + 128, 0) and waits for it.
+    void ask(int code);
+    // Waits for the row whose read the caller has queued itself (after a write, for instance).
+    void expect(int code) { pending_.insert(code); }
+
+    bool complete() const { return pending_.isEmpty(); }
+    const QSet<int> &pending() const { return pending_; }
+    // The rows reported so far, by code.
+    const QHash<int, qint64> &values() const { return values_; }
+
+signals:
+    // The last row expected has been reported.
+    void sig_complete();
+    // Any row expected has been reported.
+    void sig_progress();
+
+private:
+    void sent(int code, long value);
+    void reported(int code, qint64 wire);
+
+    QPointer<panel_base> panel_;
+    QSet<int> pending_;
+    QSet<int> asked_;
+    QHash<int, qint64> values_;
+};
+
 // Puts a settings file's rows back on a device through its panel, the way the operator's own
 // changes go: each row that differs is written (and asked back), every other row the file holds is
 // asked for again, and once each has been reported after its request, the device's values are
@@ -62,19 +96,14 @@ signals:
 private:
     enum class stage { idle, reading, storing, done };
 
-    void sent(int code, long value);
-    void reported(int code, qint64 wire);
     void all_read_back();
     void finish(bool complete, const QString &failure);
 
     QPointer<panel_base> panel_;
     QVector<device_settings::compared_row> write_;
     QVector<device_settings::compared_row> check_;
-    QSet<int> pending_;  // rows not yet read back
-    QSet<int> asked_;    // rows whose read request has been sent
-    QHash<int, qint64> read_back_;
-    int fence_code_ = -1;
-    bool fence_asked_ = false;
+    row_read_back *reading_ = nullptr;
+    row_read_back *fence_ = nullptr;
     stage stage_ = stage::idle;
     outcome result_;
     QTimer *silence_ = nullptr;
