@@ -222,9 +222,18 @@ void settings_compare_dialog::write_changed_rows() {
                      .arg(device_settings::row_count(rows), panel_->display_name()))) {
         return;
     }
-    // The restore belongs to the panel: closing this window does not cut it short.
-    restore_ = new settings_restore(panel_, now, with_can_id, panel_);
-    connect(restore_, &settings_restore::sig_finished, this, &settings_compare_dialog::restored);
+    // The restore outlives this window (closed by the operator, or with the panel of a device that
+    // was lost); what it found is then told in a box of its own.
+    restore_ = new settings_restore(panel_, now, with_can_id);
+    const QPointer<settings_compare_dialog> window(this);
+    connect(restore_, &settings_restore::sig_finished, restore_,
+            [window](const settings_restore::outcome &outcome) {
+                if (window) {
+                    window->restored(outcome);
+                } else if (!outcome.ok()) {
+                    inform(nullptr, tr("Restore settings"), settings_restore::describe(outcome));
+                }
+            });
     connect(restore_, &settings_restore::sig_finished, restore_, &QObject::deleteLater);
     result_->setText(tr("Writing %1, then reading every row back...")
                          .arg(device_settings::row_count(rows)));

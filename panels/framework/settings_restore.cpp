@@ -100,7 +100,7 @@ void settings_restore::all_read_back() {
     for (const compared_row &row : qAsConst(check_)) {
         const qint64 held = reading_->values().value(row.code);
         if (held != *row.file_wire) {
-            result_.not_taken.append(mismatch{row, held});
+            result_.not_taken.append(mismatch{row, held, row.differs()});
         }
     }
     result_.checked = check_.size();
@@ -125,7 +125,7 @@ void settings_restore::finish(bool complete, const QString &failure) {
         // Rows never read back are not known to have taken.
         for (const compared_row &row : qAsConst(check_)) {
             if (reading_->pending().contains(row.code)) {
-                result_.not_taken.append(mismatch{row, std::nullopt});
+                result_.not_taken.append(mismatch{row, std::nullopt, row.differs()});
             }
         }
     }
@@ -162,14 +162,32 @@ QString settings_restore::describe(const outcome &result) {
     } else {
         lines << tr("%1 written").arg(device_settings::row_count(result.written)) +
                      (result.stored ? tr(", then stored in the device.") : tr(", not stored."));
-        QStringList rows;
+        QStringList differing;
+        QStringList unconfirmed;
+        int unanswered = 0;
         for (const mismatch &m : result.not_taken) {
             const QString file = shown_value(*m.row.file_wire, m.row.decimals);
-            rows << (m.held ? tr("%1 (the device holds %2, the file %3)")
-                                  .arg(m.row.label, shown_value(*m.held, m.row.decimals), file)
-                            : tr("%1 (not read back; the file holds %2)").arg(m.row.label, file));
+            if (m.held) {
+                differing << tr("%1 (the device holds %2, the file %3)")
+                                 .arg(m.row.label, shown_value(*m.held, m.row.decimals), file);
+            } else if (m.written) {
+                unconfirmed << tr("%1 (the file holds %2)").arg(m.row.label, file);
+            } else {
+                ++unanswered;
+            }
         }
-        lines << tr("These rows did not take: %1.").arg(rows.join(QStringLiteral("; ")));
+        if (!differing.isEmpty()) {
+            lines << tr("These rows did not take: %1.").arg(differing.join(QStringLiteral("; ")));
+        }
+        if (!unconfirmed.isEmpty()) {
+            lines << tr("Written, but not read back, so not known to have taken: %1.")
+                         .arg(unconfirmed.join(QStringLiteral("; ")));
+        }
+        if (unanswered > 0) {
+            lines << tr("%1 not read back.")
+                         .arg(unanswered == 1 ? tr("1 other row")
+                                              : tr("%1 other rows").arg(unanswered));
+        }
     }
     if (!result.left_alone.isEmpty()) {
         lines << tr("Left as they are: %1.").arg(result.left_alone.join(QStringLiteral(", ")));

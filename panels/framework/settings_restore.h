@@ -66,6 +66,7 @@ public:
     struct mismatch {
         device_settings::compared_row row;
         std::optional<qint64> held;  // what the device reported back; none: never reported
+        bool written = false;        // the restore wrote the row (else it only asked for it)
     };
     struct outcome {
         bool complete = false;  // every row was read back; otherwise `failure` says why not
