@@ -154,13 +154,14 @@ private slots:
             QCOMPARE(row.wire, qint64(sim->value(row.code)));
         }
 
-        // Changed on the device behind the program's back; the comparison asks the device again
-        // and marks exactly those rows.
+        // Changed and stored on the device behind the program's back; the comparison asks the
+        // device again and marks exactly those rows.
         QList<int> changed_codes;
         for (const auto &change : changed) {
             sim->handle(change.first, change.second);
             changed_codes << change.first;
         }
+        sim->handle(sim->profile().store_code, 1);
         settings_compare_dialog *compare = settings_actions::load(panel, path, dialog);
         QVERIFY(compare);
         QTRY_VERIFY_WITH_TIMEOUT(compare->device_read(), 5000);
