@@ -14,6 +14,7 @@
 #include <cmath>
 #include <limits>
 #include <set>
+#include <vector>
 
 namespace device_settings {
 
@@ -57,6 +58,64 @@ QString row_name(int index, const QString &label) {
 
 read_result refused(const QString &why) {
     return read_result{std::nullopt, why};
+}
+
+// Objects and arrays nested deeper than this are not a settings file (it nests three deep).
+constexpr int max_depth = 32;
+
+// The first key that one object of the JSON text repeats, found on the raw text before it is
+// parsed, or none; `too_deep` is set when objects and arrays nest beyond max_depth. Qt's parser
+// keeps only one of two values under the same key and does not free the one it drops, and a
+// settings file never repeats a key, so such text is refused before it reaches the parser. The
+// text need not be valid JSON: whatever else is wrong with it, the parser says.
+std::optional<QString> repeated_key(const QByteArray &text, bool *too_deep) {
+    struct level {
+        bool object = false;
+        bool expect_key = false;
+        std::set<QString> keys;
+    };
+    std::vector<level> open;
+    *too_deep = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const char c = text.at(i);
+        if (c == '{' || c == '[') {
+            if (open.size() >= max_depth) {
+                *too_deep = true;
+                return std::nullopt;
+            }
+            open.push_back(level{c == '{', c == '{', {}});
+        } else if (c == '}' || c == ']') {
+            if (!open.empty()) {
+                open.pop_back();
+            }
+        } else if (c == ',' && !open.empty() && open.back().object) {
+            open.back().expect_key = true;
+        } else if (c == '"') {
+            const int start = i;
+            for (++i; i < text.size() && text.at(i) != '"'; ++i) {
+                if (text.at(i) == '\\') {
+                    ++i;  // the escaped character, a quote included
+                }
+            }
+            if (i >= text.size()) {
+                return std::nullopt;  // an unterminated string: the parser says so
+            }
+            if (open.empty() || !open.back().expect_key) {
+                continue;
+            }
+            open.back().expect_key = false;
+            const QByteArray raw = text.mid(start, i - start + 1);
+            QString key = QString::fromUtf8(raw.mid(1, raw.size() - 2));
+            if (raw.contains('\\')) {
+                // Escapes are decoded by the parser, on an array that holds nothing but the key.
+                key = QJsonDocument::fromJson("[" + raw + "]").array().at(0).toString();
+            }
+            if (!open.back().keys.insert(key).second) {
+                return key;
+            }
+        }
+    }
+    return std::nullopt;
 }
 
 }  // namespace
@@ -115,6 +174,14 @@ read_result from_text(const QByteArray &bytes) {
     }
     if (bytes.trimmed().isEmpty()) {
         return refused(tr("the file is empty"));
+    }
+    bool too_deep = false;
+    if (const std::optional<QString> key = repeated_key(bytes, &too_deep)) {
+        return refused(tr("the file is damaged: the key \"%1\" appears twice in one entry")
+                           .arg(key->left(max_text_length)));
+    }
+    if (too_deep) {
+        return refused(tr("not a settings file (it nests deeper than %1 levels)").arg(max_depth));
     }
     QJsonParseError parse{};
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parse);

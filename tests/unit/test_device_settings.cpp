@@ -108,6 +108,10 @@ private slots:
             << replaced(good, "\"wire\": 300,", "\"wire\": 300.5,") << "32-bit";
         QTest::newRow("repeated code") << replaced(good, "\"code\": 37,", "\"code\": 81,")
                                        << "repeats code 81";
+        QTest::newRow("repeated key")
+            << replaced(good, "\"wire\": 300,", "\"wire\": [300], \"w\\u0069re\": 300,")
+            << "key \"wire\" appears twice";
+        QTest::newRow("nested too deep") << "{\"format\": " + QByteArray(40, '[') << "deeper";
         QTest::newRow("no rows") << good.left(good.indexOf("\"rows\"")) + "\"rows\": []}"
                                  << "no rows";
         QTest::newRow("device without type")
