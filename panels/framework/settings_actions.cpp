@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
@@ -78,6 +79,18 @@ settings_compare_dialog *load(panel_base *panel, const QString &path, QWidget *p
     }
     auto *dialog = new settings_compare_dialog(panel, path, file, parent);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    if (auto *config = qobject_cast<config_dialog *>(parent)) {
+        // After a restore the configuration window's spin boxes show what the device now holds,
+        // so that its "Write" does not put the old values back. Setting them sends nothing.
+        QObject::connect(dialog, &settings_compare_dialog::sig_finished, config, [panel, config] {
+            const parameter_list &rows = panel->parameters();
+            const QList<QDoubleSpinBox *> &spins = config->spin_boxes();
+            for (int i = 0; i < spins.size() && i < rows.size(); ++i) {
+                const QSignalBlocker quiet(spins[i]);
+                spins[i]->setValue(rows[i].value);
+            }
+        });
+    }
     dialog->show();
     return dialog;
 }

@@ -27,7 +27,8 @@ bool save(const panel_base &panel, const QString &path, QString *error);
 QString read_for(const panel_base &panel, const QString &path, device_settings::snapshot *file);
 
 // Reads `path` and shows its comparison with the panel's device. A refusal is told to the operator
-// in a box (nothing is written) and gives null.
+// in a box (nothing is written) and gives null. When `parent` is the panel's configuration window,
+// its spin boxes take the device's values after a restore.
 settings_compare_dialog *load(panel_base *panel, const QString &path, QWidget *parent);
 
 // Connects the dialog's file buttons: each asks for a file, then runs the above.

@@ -15,6 +15,7 @@
 #include "sim_pty.h"
 
 #include <QCheckBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
@@ -188,6 +189,12 @@ private slots:
             QCOMPARE(sim->stored(row.code), qint32(row.wire));
         }
         QVERIFY(compare->current().to_write(false).isEmpty());
+        // The configuration window's "Write" would now write what the device holds.
+        for (int i = 0; i < panel->parameters().size(); ++i) {
+            QCOMPARE(dialog->spin_boxes().at(i)->value(),
+                     qMax(0.0, panel->parameters().at(i).value));
+        }
+        QCOMPARE(panel->queued_commands(), 0);
         dialog->close();
     }
 
