@@ -140,8 +140,6 @@ private slots:
         QFETCH(changes, changed);
         panel_base *panel = panel_of(slot);
         sim_device *sim = sim_of(slot);
-        config_dialog *dialog = open_dialog(panel);
-        QVERIFY(dialog->save_button()->isEnabled());
 
         // Saved: the simulator's own integers, row by row.
         const QString path = save(slot, QStringLiteral("slot%1.json").arg(slot));
@@ -155,14 +153,28 @@ private slots:
             QCOMPARE(row.wire, qint64(sim->value(row.code)));
         }
 
-        // Changed and stored on the device behind the program's back; the comparison asks the
-        // device again and marks exactly those rows.
+        // Changed and stored on the device, and seen by the operator in the configuration window;
+        // the comparison asks the device again and marks exactly those rows.
         QList<int> changed_codes;
         for (const auto &change : changed) {
             sim->handle(change.first, change.second);
             changed_codes << change.first;
+            panel->read_parameter(change.first);
         }
         sim->handle(sim->profile().store_code, 1);
+        const auto seen = [panel, &changed] {
+            for (const auto &change : changed) {
+                for (const parameter_record &record : panel->parameters()) {
+                    if (record.code == change.first && record.wire != change.second) {
+                        return false;
+                    }
+                }
+            }
+            return true;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(seen(), 5000);
+        config_dialog *dialog = open_dialog(panel);
+        QVERIFY(dialog->save_button()->isEnabled());
         settings_compare_dialog *compare = settings_actions::load(panel, path, dialog);
         QVERIFY(compare);
         QTRY_VERIFY_WITH_TIMEOUT(compare->device_read(), 5000);
