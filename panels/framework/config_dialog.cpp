@@ -91,7 +91,6 @@ config_dialog::config_dialog(const QString &display_name, const parameter_list &
     outer->addLayout(buttons);
     file_status_ = new QLabel(this);
     file_status_->setObjectName(QStringLiteral("file_status"));
-    file_status_->setWordWrap(true);
     file_status_->hide();
     outer->addWidget(file_status_);
     show_values(parameters);

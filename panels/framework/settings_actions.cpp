@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 
@@ -109,7 +110,8 @@ void attach(panel_base *panel, config_dialog *dialog) {
         if (save(*panel, path, &error)) {
             dialog->file_status()->setText(
                 QCoreApplication::translate("settings_actions", "Saved to %1")
-                    .arg(QDir::toNativeSeparators(path)));
+                    .arg(QFileInfo(path).fileName()));
+            dialog->file_status()->setToolTip(QDir::toNativeSeparators(path));
             dialog->file_status()->show();
         } else {
             inform(dialog, QCoreApplication::translate("settings_actions", "Save settings"),

@@ -68,7 +68,6 @@ settings_compare_dialog::settings_compare_dialog(panel_base *panel, const QStrin
 
     result_ = new QLabel(this);
     result_->setObjectName(QStringLiteral("restore_result"));
-    result_->setWordWrap(true);
     result_->hide();
     outer->addWidget(result_);
 
@@ -98,17 +97,11 @@ settings_compare_dialog::settings_compare_dialog(panel_base *panel, const QStrin
     }
     show_comparison();
 
-    // Wide enough for every column and tall enough for every row of the longest parameter list,
-    // so that nothing needs scrolling.
-    table_->resizeColumnsToContents();
+    // Tall enough for every row of the longest parameter list, so that nothing needs scrolling
+    // (the width follows the texts, in show_comparison()).
     table_->resizeRowsToContents();
-    int width = 2 * table_->frameWidth();
-    for (int c = 0; c < column_count; ++c) {
-        width += table_->horizontalHeader()->sectionSize(c);
-    }
     const int height = table_->verticalHeader()->length() +
                        table_->horizontalHeader()->sizeHint().height() + 2 * table_->frameWidth();
-    table_->setMinimumWidth(width);
     table_->setFixedHeight(qMin(height, 600));
     // The window never shrinks below what its texts and the table need.
     outer->setSizeConstraint(QLayout::SetMinimumSize);
@@ -169,6 +162,20 @@ void settings_compare_dialog::show_comparison() {
             item->setForeground(left_alone ? QBrush(left_alone_text) : QBrush());
         }
     }
+
+    // Wide enough for every column as it reads now; the mark column for its widest mark, whatever
+    // the rows show at the moment.
+    table_->resizeColumnsToContents();
+    const int mark_width = table_->fontMetrics().horizontalAdvance(tr("not in the file")) +
+                           table_->fontMetrics().averageCharWidth() * 2;
+    if (table_->horizontalHeader()->sectionSize(mark_column) < mark_width) {
+        table_->horizontalHeader()->resizeSection(mark_column, mark_width);
+    }
+    int width = 2 * table_->frameWidth();
+    for (int c = 0; c < column_count; ++c) {
+        width += table_->horizontalHeader()->sectionSize(c);
+    }
+    table_->setMinimumWidth(width);
 
     const int to_write = now.to_write(with_can_id).size();
     QStringList lines;

@@ -168,20 +168,19 @@ QString settings_restore::describe(const outcome &result) {
         for (const mismatch &m : result.not_taken) {
             const QString file = shown_value(*m.row.file_wire, m.row.decimals);
             if (m.held) {
-                differing << tr("%1 (the device holds %2, the file %3)")
+                differing << tr("  %1: the device holds %2, the file %3")
                                  .arg(m.row.label, shown_value(*m.held, m.row.decimals), file);
             } else if (m.written) {
-                unconfirmed << tr("%1 (the file holds %2)").arg(m.row.label, file);
+                unconfirmed << tr("  %1: the file holds %2").arg(m.row.label, file);
             } else {
                 ++unanswered;
             }
         }
         if (!differing.isEmpty()) {
-            lines << tr("These rows did not take: %1.").arg(differing.join(QStringLiteral("; ")));
+            lines << tr("These rows did not take:") << differing;
         }
         if (!unconfirmed.isEmpty()) {
-            lines << tr("Written, but not read back, so not known to have taken: %1.")
-                         .arg(unconfirmed.join(QStringLiteral("; ")));
+            lines << tr("Written, but not read back, so not known to have taken:") << unconfirmed;
         }
         if (unanswered > 0) {
             lines << tr("%1 not read back.")

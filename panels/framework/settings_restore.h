@@ -88,7 +88,7 @@ public:
     bool running() const { return stage_ != stage::idle && stage_ != stage::done; }
 
     // What happened, in sentences for the operator: what was written and stored, which rows did
-    // not take (with the device's and the file's values), which were left alone.
+    // not take (one line each, with the device's and the file's values), which were left alone.
     static QString describe(const outcome &result);
 
 signals:

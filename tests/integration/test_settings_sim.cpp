@@ -300,7 +300,7 @@ private slots:
         QCOMPARE(outcome->not_taken.first().row.code, 37);
         QCOMPARE(boxes.last().title, QStringLiteral("Restore settings"));
         QVERIFY2(boxes.last().text.contains(QStringLiteral(
-                     "did not take: Max current, mA (the device holds 1234.5, the file 1800.0)")),
+                     "did not take:\n  Max current, mA: the device holds 1234.5, the file 1800.0")),
                  qPrintable(boxes.last().text));
         QCOMPARE(sim->stored(37), 12345);
         dialog->close();
@@ -320,7 +320,8 @@ private slots:
         compare->write_button()->click();
         QTRY_COMPARE_WITH_TIMEOUT(boxes.size(), 2, 15000);
         QCOMPARE(boxes.last().title, QStringLiteral("Restore settings"));
-        QVERIFY2(boxes.last().text.contains(QStringLiteral("not known to have taken: coef. P")),
+        QVERIFY2(boxes.last().text.contains(
+                     QStringLiteral("not known to have taken:\n  coef. P: the file holds")),
                  qPrintable(boxes.last().text));
         sim->set_silent(false);
         QTRY_VERIFY_WITH_TIMEOUT(panel_of(0) && panel_of(0)->all_parameters_known(), 15000);
