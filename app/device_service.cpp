@@ -21,6 +21,7 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <optional>
 
 namespace device_service {
 
@@ -260,17 +261,22 @@ int restore(const program_options &options) {
     }
 
     settings_restore run(panel, compared, false);
-    settings_restore::outcome result;
+    std::optional<settings_restore::outcome> finished;
     QEventLoop loop;
     QObject::connect(&run, &settings_restore::sig_finished, &loop,
                      [&](const settings_restore::outcome &outcome) {
-                         result = outcome;
+                         finished = outcome;
                          loop.quit();
                      });
     run.start();
     if (run.running()) {
-        loop.exec();
+        loop.exec();  // also left when a signal ends the program
     }
+    if (!finished) {
+        complain(tr("Interrupted: the rows written so far were neither checked nor stored."));
+        return not_found;
+    }
+    const settings_restore::outcome &result = *finished;
     say(settings_restore::describe(result));
     if (!result.complete) {
         return not_found;

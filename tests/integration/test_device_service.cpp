@@ -100,7 +100,7 @@ private slots:
         QFETCH(int, files);
         configure(ids);
         const QString target = QStringLiteral("backup-%1").arg(QTest::currentDataTag());
-        QCOMPARE(run({"--backup", target, "--timeout", "3"}), code);
+        QCOMPARE(run({"--backup", target, "--timeout", "4"}), code);
 
         // One file per device found, named after its CAN id, holding the simulator's integers.
         const QStringList saved = QDir(dir.filePath(target)).entryList({"*.json"});
