@@ -1,3 +1,4 @@
+#include "device_service.h"
 #include "main_window.h"
 #include "program.h"
 #include "recorder.h"
@@ -14,6 +15,7 @@ int main(int argc, char *argv[]) {
     if (const int code = answer_help(argc, argv); code >= 0) {
         return code;
     }
+    device_service::prefer_offscreen(argc, argv);
     QApplication app(argc, argv);
     QTranslator translator;
     prepare_program(app, translator);
@@ -21,6 +23,9 @@ int main(int argc, char *argv[]) {
     const std::unique_ptr<QSettings> settings(open_program_settings());
     if (const int code = take_command_line(app.arguments(), *settings, &options); code >= 0) {
         return code;
+    }
+    if (device_service::requested(options)) {
+        return device_service::run(options);
     }
     // Outlives the window: the simulator of a demo runs until the window has closed.
     demo_run demo;

@@ -1,6 +1,7 @@
 #include "program.h"
 
 #include "build_info.h"
+#include "device_service.h"
 #include "main_window.h"
 #include "observation_hub.h"
 #include "panel_registry.h"
@@ -115,6 +116,38 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
             "device of every modelled type and connect to it, in a scratch directory."));
     parser.addOption(user_dir);
     parser.addOption(demo);
+    // Window-less backup and restore of the devices' configuration rows.
+    const QCommandLineOption backup(
+        QStringLiteral("backup"),
+        QCoreApplication::translate("program",
+                                    "Without a window: wait until every configured device has "
+                                    "reported every configuration row, save them into <dir> (a "
+                                    "file per device), print what was written and exit."),
+        QStringLiteral("dir"));
+    const QCommandLineOption restore(
+        QStringLiteral("restore"),
+        QCoreApplication::translate(
+            "program",
+            "Without a window: compare the settings <file> with the device at --can-id and print "
+            "the rows that differ; with --yes write them (never the CAN ID row), read every row "
+            "back, check and store."),
+        QStringLiteral("file"));
+    const QCommandLineOption can_id(
+        QStringLiteral("can-id"),
+        QCoreApplication::translate("program", "The CAN ID of the device for --restore."),
+        QStringLiteral("n"));
+    const QCommandLineOption yes(
+        QStringLiteral("yes"),
+        QCoreApplication::translate("program", "Let --restore write without asking."));
+    const QCommandLineOption timeout(
+        QStringLiteral("timeout"),
+        QCoreApplication::translate("program",
+                                    "How long --backup and --restore wait for the devices "
+                                    "(seconds, default 30)."),
+        QStringLiteral("s"), QStringLiteral("30"));
+    parser.addOptions({backup, restore, can_id, yes, timeout});
+    parser.setApplicationDescription(parser.applicationDescription() + QStringLiteral("\n\n") +
+                                     QString::fromUtf8(device_service::exit_code_help()));
     parser.addPositionalArgument(
         QStringLiteral("file"), QCoreApplication::translate("program", "A recording for --trends."),
         QStringLiteral("[file]"));
@@ -150,6 +183,43 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
     }
     if (parser.isSet(log_wire)) {
         serial_connector::enable_wire_log();
+    }
+    {
+        const auto wrong = [](const QString &why) {
+            std::fprintf(stderr, "%s\n", qPrintable(why));
+            return 2;
+        };
+        bool number = false;
+        options->timeout_s = parser.value(timeout).toInt(&number);
+        if (!number || options->timeout_s < 1 || options->timeout_s > 24 * 3600) {
+            return wrong(QCoreApplication::translate(
+                "program", "--timeout takes a number of seconds (1 to 86400)."));
+        }
+        if (parser.isSet(backup) && parser.isSet(restore)) {
+            return wrong(QCoreApplication::translate("program",
+                                                     "--backup and --restore go one at a time."));
+        }
+        options->backup_dir = parser.value(backup);
+        options->restore_file = parser.value(restore);
+        if (parser.isSet(backup) && options->backup_dir.isEmpty()) {
+            return wrong(QCoreApplication::translate("program", "--backup needs a directory."));
+        }
+        if (parser.isSet(can_id)) {
+            options->can_id = parser.value(can_id).toInt(&number, 0);
+            if (!number || options->can_id < 0 || options->can_id > 0x7FF) {
+                return wrong(QCoreApplication::translate(
+                    "program", "--can-id takes a CAN ID (0 to 2047, or 0x0 to 0x7FF)."));
+            }
+        }
+        if (parser.isSet(restore) && (options->restore_file.isEmpty() || options->can_id < 0)) {
+            return wrong(QCoreApplication::translate(
+                "program", "--restore needs a settings file and --can-id N."));
+        }
+        if (!parser.isSet(restore) && (parser.isSet(can_id) || parser.isSet(yes))) {
+            return wrong(QCoreApplication::translate(
+                "program", "--can-id and --yes belong to --restore."));
+        }
+        options->yes = parser.isSet(yes);
     }
     options->record_dir = remembered.value(record_key).toString();
     options->trends = parser.isSet(trends);

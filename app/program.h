@@ -30,6 +30,12 @@ struct program_options {
     QString trends_file;  // show this recording in a trend window instead of the main window
     bool user_dir = false;  // work in the per-user directory (the menu entry's way)
     bool demo = false;      // work with a simulator of its own, in a scratch directory
+    // Window-less runs (device_service.h): save every device's rows, or put a file's back.
+    QString backup_dir;    // --backup DIR
+    QString restore_file;  // --restore FILE
+    int can_id = -1;       // --can-id N: the device a restore is for
+    bool yes = false;      // --yes: a restore writes without asking
+    int timeout_s = 30;    // --timeout S: how long to wait for the devices
 };
 
 // Answers --help and --version before the window system is opened (they need no display): the

@@ -21,6 +21,10 @@ public:
     virtual void set_type_name(const QString &name);
     QString type_name() const { return type_name_; }
 
+    // The device type id the panel was made for (set by the registry that makes it; -1 before).
+    void set_type_id(int type_id) { type_id_ = type_id; }
+    int type_id() const { return type_id_; }
+
     // The owning device's live CAN id (read, for example, by the configuration dialog).
     void set_can_id_source(const std::atomic<int> *can_id) { can_id_source_ = can_id; }
     int live_can_id() const { return can_id_source_ ? can_id_source_->load() : -1; }
@@ -40,5 +44,6 @@ public slots:
 private:
     QString display_name_;
     QString type_name_;
+    int type_id_ = -1;
     const std::atomic<int> *can_id_source_ = nullptr;
 };

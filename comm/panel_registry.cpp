@@ -24,6 +24,7 @@ device_panel *panel_registry::create(int type_id, QWidget *parent) const {
     device_panel *panel = e->create(parent);
     if (panel) {
         panel->set_type_name(e->model);
+        panel->set_type_id(type_id);
     }
     return panel;
 }

@@ -7,11 +7,14 @@
 #include "panel_registry.h"
 #include "panels.h"
 #include "scaling.h"
+#include "settings_actions.h"
+#include "settings_compare_dialog.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QMap>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QtDebug>
 
@@ -192,6 +195,37 @@ int main(int argc, char *argv[]) {
             config_dialog *dialog = panel->configuration_dialog();
             dialog->adjustSize();
             save(dialog, base + QStringLiteral("_dialog.png"));
+
+            // A settings file from another device of the type: its CAN ID, two rows changed and
+            // the last row missing, compared with this device.
+            device_settings::snapshot file = settings_actions::snapshot_of(*panel);
+            file.can_id = 7;
+            file.name = QStringLiteral("Line 7");
+            for (device_settings::row &row : file.rows) {
+                if (row.code == device_settings::can_id_code) {
+                    row.wire = 7;
+                }
+            }
+            if (file.rows.size() > 3) {
+                file.rows[1].wire += 15;
+                file.rows[2].wire -= 3;
+                file.rows.removeLast();
+            }
+            QTemporaryDir scratch;
+            const QString path = scratch.filePath(device_settings::file_name(file));
+            QString error;
+            if (device_settings::write_file(path, file, &error)) {
+                if (auto *compare = settings_actions::load(panel, path, dialog)) {
+                    // The window asks for every row again: send the requests, answer them.
+                    while (panel->queued_commands() > 0) {
+                        panel->sl_refresh_state();
+                    }
+                    feed(*panel, type);
+                    compare->adjustSize();
+                    save(compare, base + QStringLiteral("_compare.png"));
+                    compare->close();
+                }
+            }
             dialog->close();
         }
     }

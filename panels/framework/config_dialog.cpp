@@ -71,6 +71,14 @@ config_dialog::config_dialog(const QString &display_name, const parameter_list &
     }
 
     auto *buttons = new QHBoxLayout;
+    save_button_ = new QPushButton(tr("Save to file..."), this);
+    save_button_->setObjectName(QStringLiteral("save_file_button"));
+    save_button_->setAutoDefault(false);
+    load_button_ = new QPushButton(tr("Load from file..."), this);
+    load_button_->setObjectName(QStringLiteral("load_file_button"));
+    load_button_->setAutoDefault(false);
+    buttons->addWidget(save_button_);
+    buttons->addWidget(load_button_);
     close_button_ = new QPushButton(tr("Close"), this);
     close_button_->setObjectName(QStringLiteral("close_button"));
     write_button_ = new QPushButton(tr("Write"), this);
@@ -81,6 +89,11 @@ config_dialog::config_dialog(const QString &display_name, const parameter_list &
     buttons->addWidget(close_button_);
     buttons->addWidget(write_button_);
     outer->addLayout(buttons);
+    file_status_ = new QLabel(this);
+    file_status_->setObjectName(QStringLiteral("file_status"));
+    file_status_->hide();
+    outer->addWidget(file_status_);
+    show_values(parameters);
 
     connect(close_button_, &QPushButton::clicked, this, &QDialog::close);
 }
@@ -89,6 +102,11 @@ void config_dialog::show_values(const parameter_list &parameters) {
     for (int i = 0; i < value_labels_.size() && i < parameters.size(); ++i) {
         value_labels_[i]->setText(value_text(parameters[i]));
     }
+    bool all_known = !parameters.isEmpty();
+    for (const parameter_record &record : parameters) {
+        all_known = all_known && record.value != unknown_mark_;
+    }
+    save_button_->setEnabled(all_known);
 }
 
 QString config_dialog::value_text(const parameter_record &record) const {

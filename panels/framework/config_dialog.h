@@ -26,8 +26,14 @@ public:
     const QList<QLabel *> &value_labels() const { return value_labels_; }
     QPushButton *write_button() const { return write_button_; }
     QPushButton *close_button() const { return close_button_; }
+    // Beside them: the rows to a settings file (enabled once every row is known) and a settings
+    // file compared with the device; and a line that says what the last of them did.
+    QPushButton *save_button() const { return save_button_; }
+    QPushButton *load_button() const { return load_button_; }
+    QLabel *file_status() const { return file_status_; }
 
-    // Rewrites each value label from the parameter list.
+    // Rewrites each value label from the parameter list (and enables "Save to file..." once every
+    // row is known).
     void show_values(const parameter_list &parameters);
 
 private:
@@ -39,4 +45,7 @@ private:
     QList<QLabel *> value_labels_;
     QPushButton *write_button_ = nullptr;
     QPushButton *close_button_ = nullptr;
+    QPushButton *save_button_ = nullptr;
+    QPushButton *load_button_ = nullptr;
+    QLabel *file_status_ = nullptr;
 };

@@ -4,6 +4,7 @@
 #include "message_route.h"
 #include "panel_style.h"
 #include "scaling.h"
+#include "settings_actions.h"
 #include "widget_update.h"
 
 #include <QAbstractButton>
@@ -249,8 +250,10 @@ void panel_base::take_parameter_report(int code, long value) {
     for (parameter_record &record : parameters_) {
         if (record.code + 128 == code) {
             record.value = static_cast<double>(value) / scaling::pow10(record.decimals);
+            record.wire = value;
             observe(panel_observation::parameter, QString::number(record.code), record.label,
                     record.value, {});
+            emit sig_parameter_reported(record.code, record.wire);
         }
     }
 }
@@ -592,6 +595,7 @@ void panel_base::on_toolButton_clicked() {
         }
     }
     connect(dialog->write_button(), &QPushButton::clicked, this, &panel_base::close_prefs_dialog);
+    settings_actions::attach(this, dialog);
     dialog->show();
 }
 
@@ -606,6 +610,17 @@ void panel_base::on_pref_changed(double value) {
             queue_read(record.code);
             return;
         }
+    }
+}
+
+void panel_base::write_parameter(int code, qint64 wire) {
+    queue_command(code, static_cast<long>(wire));
+    queue_read(code);
+}
+
+void panel_base::store_parameters() {
+    for (const panel_command &command : qAsConst(store_commands_)) {
+        queue_.append(command);
     }
 }
 

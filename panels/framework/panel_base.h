@@ -115,9 +115,21 @@ public:
     // as the devices name them).
     static QStringList driver_alarm_texts();
 
+    // --- Configuration rows as a service (backup and restore of the device's memory) -----------
+    // Each goes through the command queue as the dialog's own changes do. Writes (code, wire),
+    // then asks for the row back with (code + 128, 0), as a live change of a dialog row does.
+    void write_parameter(int code, qint64 wire);
+    // Asks for the row again: (code + 128, 0).
+    void read_parameter(int code) { queue_read(code); }
+    // Queues the store command(s) that the dialog's "Write" ends with.
+    void store_parameters();
+
 signals:
     // After every report the panel takes and every set-point it sends (see panel_observation).
     void sig_observed(const panel_observation &observation);
+    // A configuration row was reported, after its record took the value: the row's write code and
+    // the integer on the wire.
+    void sig_parameter_reported(int code, qint64 wire);
 
 public slots:
     void sl_refresh_state() override;
