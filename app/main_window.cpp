@@ -2,6 +2,7 @@
 
 #include "device_panel.h"
 #include "frame_codec.h"
+#include "monitor_window.h"
 #include "observation_hub.h"
 #include "panel_registry.h"
 #include "serial_connector.h"
@@ -121,10 +122,13 @@ main_window::main_window(const QString &brand, const panel_registry *registry, Q
     observations_ = new observation_hub(system_clock(), this);
     auto *trends = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_T), this);
     connect(trends, &QShortcut::activated, this, &main_window::open_trends);
+    auto *monitor = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_M), this);
+    connect(monitor, &QShortcut::activated, this, &main_window::open_monitor);
 }
 
 main_window::~main_window() {
     delete trends_;
+    delete monitor_;
     poll_timer_->stop();
     reconnect_timer_->stop();
     // Both stop their threads and wait for them: the link first, so that no line reaches a
@@ -512,6 +516,18 @@ trend_window *main_window::open_trends() {
     trends_->raise();
     trends_->activateWindow();
     return trends_;
+}
+
+monitor_window *main_window::open_monitor() {
+    if (!monitor_) {
+        monitor_ = new monitor_window(serial_, [this] { return devices_; });
+        // The program ends with the main window, whether the monitor is open or not.
+        monitor_->setAttribute(Qt::WA_QuitOnClose, false);
+    }
+    monitor_->show();
+    monitor_->raise();
+    monitor_->activateWindow();
+    return monitor_;
 }
 
 // ---- TTL tester ---------------------------------------------------------------------------------

@@ -14,6 +14,7 @@
 
 class QCloseEvent;
 class QTimer;
+class monitor_window;
 class observation_hub;
 class panel_registry;
 class serial_connector;
@@ -73,6 +74,9 @@ public:
     // Shows the live trend window (Ctrl+T), made on first use; closing it only hides it, so it
     // keeps collecting until the program ends.
     trend_window *open_trends();
+    // Shows the bus monitor (Ctrl+M), made on first use. It takes the link's traffic while it is
+    // open; closing it only hides it and stops that, keeping what it holds.
+    monitor_window *open_monitor();
 
 signals:
     void sig_init_connection(QString port_name);
@@ -135,4 +139,5 @@ private:
     bool keep_file_ = false;
     observation_hub *observations_ = nullptr;
     QPointer<trend_window> trends_;
+    QPointer<monitor_window> monitor_;
 };

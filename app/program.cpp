@@ -95,6 +95,13 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
         QCoreApplication::translate(
             "program", "Write every frame sent and every line received to the debug log."));
     parser.addOptions({record, trends, log_wire});
+    // The bus monitor, open from the start so that it holds the whole run.
+    const QCommandLineOption monitor(
+        QStringLiteral("monitor"),
+        QCoreApplication::translate("program",
+                                    "Open the bus monitor with the main window: every frame "
+                                    "sent and received, decoded."));
+    parser.addOption(monitor);
     parser.addPositionalArgument(
         QStringLiteral("file"), QCoreApplication::translate("program", "A recording for --trends."),
         QStringLiteral("[file]"));
@@ -134,6 +141,7 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
     options->record_dir = remembered.value(record_key).toString();
     options->trends = parser.isSet(trends);
     options->trends_file = files.value(0);
+    options->monitor = parser.isSet(monitor);
     return -1;
 }
 

@@ -28,6 +28,7 @@ struct program_options {
     QString record_dir;   // where this run records what the devices report; empty: nowhere
     bool trends = false;  // open the live trend window with the main window
     QString trends_file;  // show this recording in a trend window instead of the main window
+    bool monitor = false;  // open the bus monitor with the main window
 };
 
 // Answers --help and --version before the window system is opened (they need no display): the

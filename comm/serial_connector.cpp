@@ -3,7 +3,10 @@
 #include "line_cutter.h"
 
 #include <QDebug>
+#include <QMetaMethod>
 #include <QMutexLocker>
+
+#include <chrono>
 
 #include <poll.h>
 #include <unistd.h>
@@ -187,6 +190,7 @@ void serial_connector::sl_data_received() {
         for (const QByteArray &piece : lines) {
             const QString line = QString::fromUtf8(piece);
             qCDebug(wire_log).noquote() << line;
+            tell_traffic(false, line);
             emit sig_parse_received_message(line);
         }
     }
@@ -214,5 +218,37 @@ void serial_connector::sl_send_string(QString text) {
     }
     if (done < bytes.size()) {
         port_->write(bytes.constData() + done, bytes.size() - done);
+    }
+    tell_traffic(true, text);
+}
+
+void serial_connector::tell_traffic(bool sent, const QString &text) {
+    // A change counted after this load is seen on the next line; one counted before it is
+    // already visible to isSignalConnected(), as Qt tells of a connection once it is made.
+    const unsigned changes = traffic_changes_.load();
+    if (changes != traffic_checked_) {
+        static const QMetaMethod signal =
+            QMetaMethod::fromSignal(&serial_connector::sig_wire_traffic);
+        traffic_watched_ = isSignalConnected(signal);
+        traffic_checked_ = changes;
+    }
+    if (traffic_watched_) {
+        const auto now = std::chrono::system_clock::now().time_since_epoch();
+        emit sig_wire_traffic(std::chrono::duration_cast<std::chrono::microseconds>(now).count(),
+                              sent, text);
+    }
+}
+
+void serial_connector::connectNotify(const QMetaMethod &signal) {
+    if (signal == QMetaMethod::fromSignal(&serial_connector::sig_wire_traffic)) {
+        traffic_changes_.fetch_add(1);
+    }
+}
+
+void serial_connector::disconnectNotify(const QMetaMethod &signal) {
+    // An invalid method: every signal was disconnected at once.
+    if (!signal.isValid() ||
+        signal == QMetaMethod::fromSignal(&serial_connector::sig_wire_traffic)) {
+        traffic_changes_.fetch_add(1);
     }
 }

@@ -53,6 +53,10 @@ signals:
     void sig_connected();
     void sig_disconnected();
     void sig_parse_received_message(QString line);
+    // Every string written to the port and every line received, stamped in microseconds since
+    // the epoch in the link's thread as it passes (for the bus monitor). Only while something is
+    // connected to it is the time taken and the signal emitted.
+    void sig_wire_traffic(qint64 time_us, bool sent, QString text);
 
 public slots:
     void sl_serial_connect(QString name);
@@ -66,7 +70,14 @@ public slots:
     void sl_data_received();
     void sl_send_string(QString text);
 
+protected:
+    void connectNotify(const QMetaMethod &signal) override;
+    void disconnectNotify(const QMetaMethod &signal) override;
+
 private:
+    // Emits sig_wire_traffic() when it has receivers.
+    void tell_traffic(bool sent, const QString &text);
+
     void apply_settings(QSerialPort *port, const QString &name);
     void replace_port(QSerialPort *port);
     bool port_ready() const;
@@ -82,4 +93,10 @@ private:
     QByteArray buffer_;
     std::atomic<qint64> bytes_received_{0};
     std::atomic<bool> polling_ready_{false};
+    // Whether sig_wire_traffic() has receivers, as Qt last told the link's thread; asked again
+    // only after a connection of it changed (counted in any thread), so that a closed monitor
+    // costs one atomic load a line.
+    std::atomic<unsigned> traffic_changes_{0};
+    unsigned traffic_checked_ = ~0u;  // link's thread only
+    bool traffic_watched_ = false;    // link's thread only
 };
