@@ -254,7 +254,10 @@ QString monitor_model::cell_text(int row, int col) const {
         return name;
     }
     case raw_column:
-        return line.has_value() ? QString::number(line.value()) : QString();
+        // A read request carries 0, which says nothing.
+        return line.has_value() && !(line.is_request() && line.value() == 0)
+                   ? QString::number(line.value())
+                   : QString();
     case value_column:
         return meaning && meaning->scaled && line.has_value() && !line.is_request()
                    ? monitor::value_text(*meaning, line.value())

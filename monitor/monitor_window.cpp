@@ -105,12 +105,13 @@ monitor_window::monitor_window(serial_connector *link, device_directory::device_
     rows->setDefaultSectionSize(fontMetrics().height() + 4);
     QHeaderView *columns = view_->horizontalHeader();
     columns->setHighlightSections(false);
-    const int m = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    const int widths[] = {14, 10, 8, 16, 7, 0, 12, 14};
+    // Each column as wide as its widest usual text; the meaning takes what is left over.
+    const char *const widest[] = {"00:00:00.000", "received", "0x000", "Device name 12",
+                                  "0x00", "", "-2147483648", "-12345.678 mA"};
     for (int c = 0; c < monitor_model::column_count; ++c) {
-        if (widths[c] > 0) {
-            columns->resizeSection(c, widths[c] * m + 12);
-        }
+        const QString header = model_->headerData(c, Qt::Horizontal).toString();
+        const int text = fontMetrics().horizontalAdvance(QString::fromLatin1(widest[c]));
+        columns->resizeSection(c, std::max(text, fontMetrics().horizontalAdvance(header)) + 16);
     }
     columns->setSectionResizeMode(monitor_model::name_column, QHeaderView::Stretch);
     connect(model_, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
@@ -136,7 +137,7 @@ monitor_window::monitor_window(serial_connector *link, device_directory::device_
         pause_->hide();
         clear_->hide();
     }
-    resize(1100, 600);
+    resize(1250, 640);
     update_status();
 }
 
