@@ -5,6 +5,7 @@
 #include <QDebug>
 #include <QMetaMethod>
 #include <QMutexLocker>
+#include <QTimer>
 
 #include <chrono>
 
@@ -22,12 +23,17 @@ void serial_connector::enable_wire_log() {
 }
 
 serial_connector::serial_connector(QObject *parent) : QObject(parent) {
+    qRegisterMetaType<wire_batch>();
     moveToThread(worker_.thread());
 }
 
 serial_connector::~serial_connector() {
-    // The port was created in the link's thread and is closed and freed there.
-    worker_.stop([this] { release_port(); });
+    // The port was created in the link's thread and is closed and freed there, as is the timer.
+    worker_.stop([this] {
+        release_port();
+        delete traffic_timer_;
+        traffic_timer_ = nullptr;
+    });
 }
 
 void serial_connector::release_port() {
@@ -231,12 +237,34 @@ void serial_connector::tell_traffic(bool sent, const QString &text) {
             QMetaMethod::fromSignal(&serial_connector::sig_wire_traffic);
         traffic_watched_ = isSignalConnected(signal);
         traffic_checked_ = changes;
+        if (!traffic_watched_) {
+            traffic_.clear();
+        }
     }
-    if (traffic_watched_) {
-        const auto now = std::chrono::system_clock::now().time_since_epoch();
-        emit sig_wire_traffic(std::chrono::duration_cast<std::chrono::microseconds>(now).count(),
-                              sent, text);
+    if (!traffic_watched_) {
+        return;
     }
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    traffic_.append(
+        {std::chrono::duration_cast<std::chrono::microseconds>(now).count(), sent, text});
+    if (!traffic_timer_) {
+        traffic_timer_ = new QTimer(this);
+        traffic_timer_->setSingleShot(true);
+        traffic_timer_->setInterval(traffic_batch_ms);
+        connect(traffic_timer_, &QTimer::timeout, this, &serial_connector::flush_traffic);
+    }
+    if (!traffic_timer_->isActive()) {
+        traffic_timer_->start();
+    }
+}
+
+void serial_connector::flush_traffic() {
+    if (traffic_.isEmpty()) {
+        return;
+    }
+    wire_batch lines;
+    lines.swap(traffic_);
+    emit sig_wire_traffic(lines);
 }
 
 void serial_connector::connectNotify(const QMetaMethod &signal) {

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QSerialPort>
 #include <QString>
+#include <QVector>
 
 #include "worker_thread.h"
 
@@ -17,6 +18,17 @@
 // "--log-wire" option or with QT_LOGGING_RULES="lumivox.wire.debug=true".
 Q_DECLARE_LOGGING_CATEGORY(wire_log)
 
+// One string the link wrote or one line it received, as it tells the bus monitor.
+struct wire_record {
+    qint64 time_us = 0;  // microseconds since the epoch, taken in the link's thread as it passed
+    bool sent = false;
+    QString text;
+};
+using wire_batch = QVector<wire_record>;
+Q_DECLARE_METATYPE(wire_batch)
+
+class QTimer;
+
 // Owns the serial port to the USB-to-CAN adapter, in a thread of its own. Opens and configures the
 // port, switches the adapter's CAN channel on, writes strings, cuts the received stream into lines
 // and turns the window's 10 ms timer tick into the send-now pulse of the polling cycle. It knows
@@ -26,6 +38,8 @@ class serial_connector : public QObject {
 public:
     // A receive buffer that grows beyond this without a carriage return is discarded.
     static constexpr int max_buffered_bytes = 5000;
+    // The longest a line waits in the link before sig_wire_traffic() tells of it.
+    static constexpr int traffic_batch_ms = 200;
 
     explicit serial_connector(QObject *parent = nullptr);
     // Closes the port in the connector's thread, then stops the thread and waits for it.
@@ -53,10 +67,10 @@ signals:
     void sig_connected();
     void sig_disconnected();
     void sig_parse_received_message(QString line);
-    // Every string written to the port and every line received, stamped in microseconds since
-    // the epoch in the link's thread as it passes (for the bus monitor). Only while something is
-    // connected to it is the time taken and the signal emitted.
-    void sig_wire_traffic(qint64 time_us, bool sent, QString text);
+    // Every string written to the port and every line received, stamped as it passed, in
+    // batches at most traffic_batch_ms apart (for the bus monitor: one queued call per batch
+    // rather than per line). Only while something is connected is anything stamped or kept.
+    void sig_wire_traffic(const wire_batch &lines);
 
 public slots:
     void sl_serial_connect(QString name);
@@ -75,8 +89,9 @@ protected:
     void disconnectNotify(const QMetaMethod &signal) override;
 
 private:
-    // Emits sig_wire_traffic() when it has receivers.
+    // Keeps a line for the next sig_wire_traffic() when it has receivers; flush_traffic() emits.
     void tell_traffic(bool sent, const QString &text);
+    void flush_traffic();
 
     void apply_settings(QSerialPort *port, const QString &name);
     void replace_port(QSerialPort *port);
@@ -99,4 +114,6 @@ private:
     std::atomic<unsigned> traffic_changes_{0};
     unsigned traffic_checked_ = ~0u;  // link's thread only
     bool traffic_watched_ = false;    // link's thread only
+    wire_batch traffic_;              // link's thread only
+    QTimer *traffic_timer_ = nullptr;  // link's thread only, made on first use
 };

@@ -79,8 +79,14 @@ void monitor_model::take(const bus_line &line) {
     }
 }
 
-void monitor_model::take_wire(qint64 time_us, bool sent, const QString &text) {
-    take(monitor::read_wire(time_us, sent ? direction::sent : direction::received, text));
+void monitor_model::take_batch(const wire_batch &lines) {
+    for (const wire_record &line : lines) {
+        take(monitor::read_wire(line.time_us, line.sent ? direction::sent : direction::received,
+                                line.text));
+    }
+    if (!paused_) {
+        publish();
+    }
 }
 
 void monitor_model::drop_oldest(int count) {
@@ -209,9 +215,17 @@ int monitor_model::columnCount(const QModelIndex &parent) const {
 QString monitor_model::cell_text(int row, int col) const {
     const bus_line &line = line_at(row);
     switch (col) {
-    case time_column:
-        return QDateTime::fromMSecsSinceEpoch(line.time_us / 1000)
-            .toString(QStringLiteral("HH:mm:ss.zzz"));
+    case time_column: {
+        const qint64 ms = line.time_us / 1000;
+        const qint64 second = ms / 1000;
+        if (second != shown_second_) {
+            shown_second_ = second;
+            shown_second_text_ =
+                QDateTime::fromMSecsSinceEpoch(second * 1000).toString(QStringLiteral("HH:mm:ss"));
+        }
+        return shown_second_text_ + QLatin1Char('.') +
+               QString::number(ms % 1000).rightJustified(3, QLatin1Char('0'));
+    }
     case direction_column:
         return line.dir == direction::sent ? tr("sent") : tr("received");
     default:
@@ -286,21 +300,14 @@ QVariant monitor_model::data(const QModelIndex &index, int role) const {
         }
         return cell_text(index.row(), index.column());
     case Qt::TextAlignmentRole:
-        if (index.column() == raw_column || index.column() == value_column) {
+        if (right_aligned(index.column())) {
             return QVariant(Qt::AlignRight | Qt::AlignVCenter);
         }
         return {};
-    case Qt::ForegroundRole:
-        switch (line.kind) {
-        case line_kind::ignored:
-        case line_kind::text:
-            return QBrush(QColor(110, 110, 110));
-        case line_kind::malformed:
-        case line_kind::bad_checksum:
-            return QBrush(QColor(170, 20, 20));
-        default:
-            return line.dir == direction::sent ? QBrush(QColor(20, 60, 150)) : QVariant();
-        }
+    case Qt::ForegroundRole: {
+        const QColor colour = line_colour(line);
+        return colour.isValid() ? QVariant(QBrush(colour)) : QVariant();
+    }
     case Qt::FontRole:
         if (!line.is_frame()) {
             QFont italic;
@@ -310,6 +317,19 @@ QVariant monitor_model::data(const QModelIndex &index, int role) const {
         return {};
     default:
         return {};
+    }
+}
+
+QColor monitor_model::line_colour(const bus_line &line) {
+    switch (line.kind) {
+    case line_kind::ignored:
+    case line_kind::text:
+        return QColor(110, 110, 110);
+    case line_kind::malformed:
+    case line_kind::bad_checksum:
+        return QColor(170, 20, 20);
+    default:
+        return line.dir == direction::sent ? QColor(20, 60, 150) : QColor();
     }
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "bus_line.h"
+#include "serial_connector.h"
 
 #include <QAbstractTableModel>
 #include <QByteArray>
+#include <QColor>
 #include <QList>
 #include <QSet>
 #include <QTimer>
@@ -29,9 +31,9 @@ bool read_codes(const QString &text, QSet<int> *codes, QString *bad);
 
 // The bus monitor's history and its list, without widgets: every line the link passed is kept (up
 // to the capacity; when full, the oldest hundredth goes at once), and the lines that pass the
-// filter are shown in order, newest at the bottom. New lines reach the list in batches, on the
-// next publication (a tenth of a second after the first of them), so a view is told of a batch
-// at a time. While paused, lines are still kept but the list does not move, except that lines
+// filter are shown in order, newest at the bottom. New lines reach the list in batches: a batch
+// from the link at once, single lines on the next publication (publish_ms after the first), so a
+// view is told of a batch at a time and repaints at most a few times a second. While paused, lines are still kept but the list does not move, except that lines
 // dropped from a full history leave it at the top.
 class monitor_model : public QAbstractTableModel {
     Q_OBJECT
@@ -48,7 +50,7 @@ public:
         column_count
     };
     static constexpr int default_capacity = 100000;
-    static constexpr int publish_ms = 100;
+    static constexpr int publish_ms = serial_connector::traffic_batch_ms;
 
     // Names the device at an address and its codes (null: nothing known).
     using lookup = std::function<const monitor::device_words *(int address)>;
@@ -59,9 +61,8 @@ public:
 
     // Keeps a line; it reaches the list on the next publication.
     void take(const monitor::bus_line &line);
-    // A string the link wrote (`sent`) or a line it received, stamped in microseconds since the
-    // epoch: the serial link's sig_wire_traffic().
-    void take_wire(qint64 time_us, bool sent, const QString &text);
+    // A batch of the serial link's traffic (sig_wire_traffic()), published at once.
+    void take_batch(const wire_batch &lines);
     // Publishes what came since the last publication now.
     void publish();
 
@@ -87,6 +88,10 @@ public:
 
     // The text a cell shows (what data() gives for Qt::DisplayRole).
     QString cell_text(int row, int col) const;
+    // The colour of a line's text (invalid: the view's own), and whether a column's texts are
+    // aligned to the right.
+    static QColor line_colour(const monitor::bus_line &line);
+    static bool right_aligned(int col) { return col == raw_column || col == value_column; }
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -116,6 +121,10 @@ private:
     std::deque<qint64> shown_;  // sequence numbers of the rows, ascending
     qint64 looked_ = 0;         // lines before this one have been looked at for the list
     QSet<int> addresses_;
+    // The local time of the last second shown ("12:34:56"): the lines of one second share it,
+    // and working out the local time asks the system about its time zone every time.
+    mutable qint64 shown_second_ = -1;
+    mutable QString shown_second_text_;
     monitor_filter filter_;
     bool paused_ = false;
     QTimer publisher_;

@@ -3,6 +3,7 @@
 #include "candump_log.h"
 #include "device.h"
 #include "frame_codec.h"
+#include "line_delegate.h"
 #include "serial_connector.h"
 
 #include <QApplication>
@@ -93,6 +94,7 @@ monitor_window::monitor_window(serial_connector *link, device_directory::device_
 
     view_ = new QTableView;
     view_->setModel(model_);
+    view_->setItemDelegate(new line_delegate(model_, view_));
     view_->setSelectionBehavior(QAbstractItemView::SelectRows);
     view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view_->setShowGrid(false);
@@ -151,7 +153,7 @@ void monitor_window::attach() {
     }
     // Queued: the link stamps and emits in its own thread; the model takes the lines here.
     connect(link_.data(), &serial_connector::sig_wire_traffic, model_,
-            &monitor_model::take_wire, Qt::QueuedConnection);
+            &monitor_model::take_batch, Qt::QueuedConnection);
     capturing_ = true;
 }
 
@@ -161,7 +163,7 @@ void monitor_window::detach() {
     }
     if (link_) {
         disconnect(link_.data(), &serial_connector::sig_wire_traffic, model_,
-                   &monitor_model::take_wire);
+                   &monitor_model::take_batch);
     }
     capturing_ = false;
 }
