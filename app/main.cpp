@@ -49,5 +49,8 @@ int main(int argc, char *argv[]) {
     if (options.trends) {
         window.open_trends();
     }
+    if (options.monitor) {
+        window.open_monitor();
+    }
     return app.exec();
 }

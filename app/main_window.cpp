@@ -2,6 +2,7 @@
 
 #include "device_panel.h"
 #include "frame_codec.h"
+#include "monitor_window.h"
 #include "observation_hub.h"
 #include "panel_registry.h"
 #include "port_report.h"
@@ -124,10 +125,13 @@ main_window::main_window(const QString &brand, const panel_registry *registry, Q
     connect(trends, &QShortcut::activated, this, &main_window::open_trends);
 
     port_report_ = new port_report(this);
+    auto *monitor = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_M), this);
+    connect(monitor, &QShortcut::activated, this, &main_window::open_monitor);
 }
 
 main_window::~main_window() {
     delete trends_;
+    delete monitor_;
     poll_timer_->stop();
     reconnect_timer_->stop();
     // Both stop their threads and wait for them: the link first, so that no line reaches a
@@ -520,6 +524,18 @@ trend_window *main_window::open_trends() {
     trends_->raise();
     trends_->activateWindow();
     return trends_;
+}
+
+monitor_window *main_window::open_monitor() {
+    if (!monitor_) {
+        monitor_ = new monitor_window(serial_, [this] { return devices_; });
+        // The program ends with the main window, whether the monitor is open or not.
+        monitor_->setAttribute(Qt::WA_QuitOnClose, false);
+    }
+    monitor_->show();
+    monitor_->raise();
+    monitor_->activateWindow();
+    return monitor_;
 }
 
 // ---- TTL tester ---------------------------------------------------------------------------------

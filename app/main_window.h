@@ -14,6 +14,7 @@
 
 class QCloseEvent;
 class QTimer;
+class monitor_window;
 class observation_hub;
 class panel_registry;
 class port_report;
@@ -74,6 +75,9 @@ public:
     // Shows the live trend window (Ctrl+T), made on first use; closing it only hides it, so it
     // keeps collecting until the program ends.
     trend_window *open_trends();
+    // Shows the bus monitor (Ctrl+M), made on first use. It takes the link's traffic while it is
+    // open; closing it only hides it and stops that, keeping what it holds.
+    monitor_window *open_monitor();
 
     // Says why the serial port could not be opened (status bar, and once in a box).
     port_report *port_failures() const { return port_report_; }
@@ -140,4 +144,5 @@ private:
     observation_hub *observations_ = nullptr;
     QPointer<trend_window> trends_;
     port_report *port_report_ = nullptr;
+    QPointer<monitor_window> monitor_;
 };

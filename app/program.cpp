@@ -148,6 +148,13 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
     parser.addOptions({backup, restore, can_id, yes, timeout});
     parser.setApplicationDescription(parser.applicationDescription() + QStringLiteral("\n\n") +
                                      QString::fromUtf8(device_service::exit_code_help()));
+    // The bus monitor, open from the start so that it holds the whole run.
+    const QCommandLineOption monitor(
+        QStringLiteral("monitor"),
+        QCoreApplication::translate("program",
+                                    "Open the bus monitor with the main window: every frame "
+                                    "sent and received, decoded."));
+    parser.addOption(monitor);
     parser.addPositionalArgument(
         QStringLiteral("file"), QCoreApplication::translate("program", "A recording for --trends."),
         QStringLiteral("[file]"));
@@ -234,6 +241,7 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
             return 1;
         }
     }
+    options->monitor = parser.isSet(monitor);
     return -1;
 }
 

@@ -36,6 +36,7 @@ struct program_options {
     int can_id = -1;       // --can-id N: the device a restore is for
     bool yes = false;      // --yes: a restore writes without asking
     int timeout_s = 30;    // --timeout S: how long to wait for the devices
+    bool monitor = false;  // open the bus monitor with the main window
 };
 
 // Answers --help and --version before the window system is opened (they need no display): the

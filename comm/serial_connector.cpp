@@ -3,7 +3,11 @@
 #include "line_cutter.h"
 
 #include <QDebug>
+#include <QMetaMethod>
 #include <QMutexLocker>
+#include <QTimer>
+
+#include <chrono>
 
 #include <utility>
 
@@ -21,12 +25,17 @@ void serial_connector::enable_wire_log() {
 }
 
 serial_connector::serial_connector(QObject *parent) : QObject(parent) {
+    qRegisterMetaType<wire_batch>();
     moveToThread(worker_.thread());
 }
 
 serial_connector::~serial_connector() {
-    // The port was created in the link's thread and is closed and freed there.
-    worker_.stop([this] { release_port(); });
+    // The port was created in the link's thread and is closed and freed there, as is the timer.
+    worker_.stop([this] {
+        release_port();
+        delete traffic_timer_;
+        traffic_timer_ = nullptr;
+    });
 }
 
 void serial_connector::release_port() {
@@ -203,6 +212,7 @@ void serial_connector::sl_data_received() {
         for (const QByteArray &piece : lines) {
             const QString line = QString::fromUtf8(piece);
             qCDebug(wire_log).noquote() << line;
+            tell_traffic(false, line);
             emit sig_parse_received_message(line);
         }
     }
@@ -230,5 +240,59 @@ void serial_connector::sl_send_string(QString text) {
     }
     if (done < bytes.size()) {
         port_->write(bytes.constData() + done, bytes.size() - done);
+    }
+    tell_traffic(true, text);
+}
+
+void serial_connector::tell_traffic(bool sent, const QString &text) {
+    // A change counted after this load is seen on the next line; one counted before it is
+    // already visible to isSignalConnected(), as Qt tells of a connection once it is made.
+    const unsigned changes = traffic_changes_.load();
+    if (changes != traffic_checked_) {
+        static const QMetaMethod signal =
+            QMetaMethod::fromSignal(&serial_connector::sig_wire_traffic);
+        traffic_watched_ = isSignalConnected(signal);
+        traffic_checked_ = changes;
+        if (!traffic_watched_) {
+            traffic_.clear();
+        }
+    }
+    if (!traffic_watched_) {
+        return;
+    }
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    traffic_.append(
+        {std::chrono::duration_cast<std::chrono::microseconds>(now).count(), sent, text});
+    if (!traffic_timer_) {
+        traffic_timer_ = new QTimer(this);
+        traffic_timer_->setSingleShot(true);
+        traffic_timer_->setInterval(traffic_batch_ms);
+        connect(traffic_timer_, &QTimer::timeout, this, &serial_connector::flush_traffic);
+    }
+    if (!traffic_timer_->isActive()) {
+        traffic_timer_->start();
+    }
+}
+
+void serial_connector::flush_traffic() {
+    if (traffic_.isEmpty()) {
+        return;
+    }
+    wire_batch lines;
+    lines.swap(traffic_);
+    emit sig_wire_traffic(lines);
+}
+
+void serial_connector::connectNotify(const QMetaMethod &signal) {
+    if (signal == QMetaMethod::fromSignal(&serial_connector::sig_wire_traffic)) {
+        traffic_changes_.fetch_add(1);
+    }
+}
+
+void serial_connector::disconnectNotify(const QMetaMethod &signal) {
+    // An invalid method: every signal was disconnected at once.
+    if (!signal.isValid() ||
+        signal == QMetaMethod::fromSignal(&serial_connector::sig_wire_traffic)) {
+        traffic_changes_.fetch_add(1);
     }
 }

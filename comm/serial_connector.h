@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QSerialPort>
 #include <QString>
+#include <QVector>
 
 #include "port_failure.h"
 #include "worker_thread.h"
@@ -18,6 +19,17 @@
 // "--log-wire" option or with QT_LOGGING_RULES="lumivox.wire.debug=true".
 Q_DECLARE_LOGGING_CATEGORY(wire_log)
 
+// One string the link wrote or one line it received, as it tells the bus monitor.
+struct wire_record {
+    qint64 time_us = 0;  // microseconds since the epoch, taken in the link's thread as it passed
+    bool sent = false;
+    QString text;
+};
+using wire_batch = QVector<wire_record>;
+Q_DECLARE_METATYPE(wire_batch)
+
+class QTimer;
+
 // Owns the serial port to the USB-to-CAN adapter, in a thread of its own. Opens and configures the
 // port, switches the adapter's CAN channel on, writes strings, cuts the received stream into lines
 // and turns the window's 10 ms timer tick into the send-now pulse of the polling cycle. It knows
@@ -27,6 +39,8 @@ class serial_connector : public QObject {
 public:
     // A receive buffer that grows beyond this without a carriage return is discarded.
     static constexpr int max_buffered_bytes = 5000;
+    // The longest a line waits in the link before sig_wire_traffic() tells of it.
+    static constexpr int traffic_batch_ms = 200;
 
     explicit serial_connector(QObject *parent = nullptr);
     // Closes the port in the connector's thread, then stops the thread and waits for it.
@@ -59,6 +73,10 @@ signals:
     void sig_connected();
     void sig_disconnected();
     void sig_parse_received_message(QString line);
+    // Every string written to the port and every line received, stamped as it passed, in
+    // batches at most traffic_batch_ms apart (for the bus monitor: one queued call per batch
+    // rather than per line). Only while something is connected is anything stamped or kept.
+    void sig_wire_traffic(const wire_batch &lines);
 
 public slots:
     void sl_serial_connect(QString name);
@@ -72,7 +90,15 @@ public slots:
     void sl_data_received();
     void sl_send_string(QString text);
 
+protected:
+    void connectNotify(const QMetaMethod &signal) override;
+    void disconnectNotify(const QMetaMethod &signal) override;
+
 private:
+    // Keeps a line for the next sig_wire_traffic() when it has receivers; flush_traffic() emits.
+    void tell_traffic(bool sent, const QString &text);
+    void flush_traffic();
+
     void apply_settings(QSerialPort *port, const QString &name);
     void replace_port(QSerialPort *port);
     bool port_ready() const;
@@ -89,4 +115,12 @@ private:
     QByteArray buffer_;
     std::atomic<qint64> bytes_received_{0};
     std::atomic<bool> polling_ready_{false};
+    // Whether sig_wire_traffic() has receivers, as Qt last told the link's thread; asked again
+    // only after a connection of it changed (counted in any thread), so that a closed monitor
+    // costs one atomic load a line.
+    std::atomic<unsigned> traffic_changes_{0};
+    unsigned traffic_checked_ = ~0u;  // link's thread only
+    bool traffic_watched_ = false;    // link's thread only
+    wire_batch traffic_;              // link's thread only
+    QTimer *traffic_timer_ = nullptr;  // link's thread only, made on first use
 };

@@ -90,6 +90,8 @@ bool parse_sim_options(const QStringList &arguments, sim_options *options, QStri
                                     QStringLiteral("MS[:FOR]"));
     parser.addOptions(
         {help, device, every, link, trace, steady, silent, garbage, change, alarm, hangup});
+    const QCommandLineOption replay(QStringLiteral("replay"), QString(), QStringLiteral("FILE"));
+    parser.addOption(replay);
     if (!parser.parse(arguments)) {
         *error = parser.errorText();
         return false;
@@ -178,6 +180,11 @@ bool parse_sim_options(const QStringList &arguments, sim_options *options, QStri
         o.hangup_after_ms = f[0];
         o.replug_after_ms = f[1];
     }
+    o.replay = parser.value(replay);
+    if (!o.replay.isEmpty() && !o.devices.empty()) {
+        *error = QStringLiteral("--replay plays the log alone: no --device or --every-type with it");
+        return false;
+    }
     *options = o;
     return true;
 }
@@ -251,6 +258,11 @@ QString sim_help_text() {
                "                          noise, the slow temperature wander and the drift of\n"
                "                          optical power with temperature that they have by "
                "default.\n"
+               "  --replay FILE           play a candump log (as Lumivox's bus monitor exports it)\n"
+               "                          instead of devices: once Lumivox opens the CAN channel,\n"
+               "                          the frames the log has Lumivox receive are written at\n"
+               "                          the recorded pace (those it sent are left out); then the\n"
+               "                          line stays open and silent. No --device with it.\n"
                "\n"
                "Faults (times in milliseconds from start; numbers in decimal or 0x hex):\n"
                "  --silent ID[:AFTER[:FOR]]\n"

@@ -41,6 +41,7 @@ struct sim_options {
     QString link;                 // stable symbolic link to the slave path, if wanted
     bool trace = false;           // every request and answer on standard error
     bool steady = false;          // readings without noise or drift (see sim_device::set_lively)
+    QString replay;               // a candump log to play onto the line instead of devices
     bool help = false;
 };
 

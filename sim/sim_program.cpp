@@ -6,6 +6,9 @@ sim_program::sim_program(const sim_options &options, std::FILE *out, std::FILE *
     clock_.setTimerType(Qt::PreciseTimer);
     clock_.setInterval(tick_ms);
     connect(&clock_, &QTimer::timeout, this, &sim_program::tick);
+    replay_timer_.setTimerType(Qt::PreciseTimer);
+    replay_timer_.setSingleShot(true);
+    connect(&replay_timer_, &QTimer::timeout, this, &sim_program::replay_step);
 }
 
 sim_program::~sim_program() {
@@ -36,6 +39,15 @@ bool sim_program::start() {
                 .arg(d->address())
                 .arg(d->type_id())
                 .arg(d->profile().model));
+    }
+    if (!options_.replay.isEmpty()) {
+        replay_ = std::make_unique<log_replay>();
+        if (!replay_->open(options_.replay, &error)) {
+            say(error);
+            return false;
+        }
+        replay_next_ = replay_->next();
+        say(QStringLiteral("replaying %1 once Lumivox opens the CAN channel").arg(options_.replay));
     }
     if (!open_line()) {
         return false;
@@ -73,6 +85,33 @@ void sim_program::tick() {
     const qint64 behind = elapsed_.elapsed() - bus_.now_ms();
     if (behind > 0) {
         bus_.advance(behind);
+    }
+    if (replay_ && !replay_started_ && pty_ && pty_->adapter().channel_open()) {
+        replay_started_ = true;
+        replay_clock_.start();
+        replay_step();
+    }
+}
+
+void sim_program::replay_step() {
+    const qint64 now_us = replay_clock_.nsecsElapsed() / 1000;
+    while (replay_next_ && now_us >= replay_due_us_) {
+        // As the adapter: nothing reaches the program while its channel is closed.
+        if (pty_ && pty_->is_open() && pty_->adapter().channel_open()) {
+            pty_->write_unasked(replay_next_->text);
+        }
+        replay_next_ = replay_->next();
+        if (replay_next_) {
+            replay_due_us_ += replay_next_->delay_us;
+        } else {
+            say(QStringLiteral("replay finished: %1 frames played, %2 lines skipped")
+                    .arg(replay_->played())
+                    .arg(replay_->skipped_lines()));
+        }
+    }
+    if (replay_next_) {
+        replay_timer_.start(static_cast<int>(qMin<qint64>((replay_due_us_ - now_us + 999) / 1000,
+                                                          24 * 3600 * 1000)));
     }
 }
 

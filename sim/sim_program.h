@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log_replay.h"
 #include "sim_bus.h"
 #include "sim_options.h"
 #include "sim_pty.h"
@@ -36,6 +37,8 @@ signals:
 private:
     bool open_line();
     void tick();
+    // Writes the replayed frames that are due and waits for the next.
+    void replay_step();
     void hang_up();
     void say(const QString &text);
 
@@ -47,4 +50,13 @@ private:
     QString linked_path_;  // the slave path the link points to
     QTimer clock_;
     QElapsedTimer elapsed_;
+
+    // --replay: the log, the frame it plays next and when (microseconds after the replay began,
+    // which is when the program first opened the CAN channel).
+    std::unique_ptr<log_replay> replay_;
+    std::optional<log_replay::step> replay_next_;
+    bool replay_started_ = false;
+    qint64 replay_due_us_ = 0;
+    QElapsedTimer replay_clock_;
+    QTimer replay_timer_;
 };

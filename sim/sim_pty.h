@@ -31,6 +31,9 @@ public:
     void hang_up();
 
     slcan_adapter &adapter() { return adapter_; }
+    // Writes `bytes` to the program unasked, as the adapter passes on frames from the bus (a
+    // replayed log).
+    void write_unasked(const QByteArray &bytes) { send(bytes); }
     qint64 bytes_received() const { return bytes_in_; }
     qint64 bytes_sent() const { return bytes_out_; }
 

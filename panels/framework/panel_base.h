@@ -81,6 +81,20 @@ public:
     bool emission_on() const { return emission_on_; }
     // Every reading the panel shows, as described by its constructor.
     const QVector<reading_spec> &readings() const { return readings_; }
+    // What the write command `code` sets, as described for observers (describe_command()): the
+    // quantity, its unit, and the wire value's scale and offset. False when it is not described.
+    bool command_description(int code, QString *quantity, QString *unit, double *scale,
+                             double *offset) const {
+        const auto found = command_names_.constFind(code);
+        if (found == command_names_.constEnd()) {
+            return false;
+        }
+        *quantity = found->quantity;
+        *unit = found->unit;
+        *scale = found->scale;
+        *offset = found->offset;
+        return true;
+    }
 
     // --- Set-points and emission for callers without widgets (scripts, restores) -----------------
     // A set-point the operator can send with Enter, named by a stable key.
