@@ -76,6 +76,8 @@ void settings_restore::start() {
     stage_ = stage::reading;
     // A device that changes type or goes silent loses its panel.
     connect(panel_, &QObject::destroyed, this, [this] {
+        // The panel is being destroyed (no longer a panel): forget it before anything looks.
+        panel_.clear();
         finish(false, tr("the device was lost (it stopped answering or changed its type)"));
     });
     reading_ = new row_read_back(panel_, this);
