@@ -1,5 +1,6 @@
 #include "main_window.h"
 #include "program.h"
+#include "publisher.h"
 #include "recorder.h"
 #include "trend_window.h"
 
@@ -33,6 +34,10 @@ int main(int argc, char *argv[]) {
     recorder rec;
     if (!options.record_dir.isEmpty()) {
         record_window(window, rec, options.record_dir);
+    }
+    publisher pub;
+    if (!options.mqtt_url.isEmpty()) {
+        publish_window(window, pub, options, *settings);
     }
     window.show();
     if (options.trends) {

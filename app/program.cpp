@@ -1,16 +1,24 @@
 #include "program.h"
 
+#include "broker_message.h"
+#include "broker_url.h"
 #include "build_info.h"
 #include "main_window.h"
 #include "observation_hub.h"
 #include "panel_registry.h"
 #include "panels.h"
+#include "publisher.h"
 #include "serial_connector.h"
 #include "recorder.h"
 #include "translation.h"
 #include "trend_window.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QPointer>
+#include <QSet>
+#include <QSysInfo>
+#include <QTimer>
 #include <QCommandLineParser>
 #include <QDebug>
 #include <QFileInfo>
@@ -69,6 +77,8 @@ void prepare_program(QApplication &app, QTranslator &translator) {
 
 namespace {
 const QString record_key = QStringLiteral("record/directory");
+const QString mqtt_key = QStringLiteral("mqtt/url");
+const QString station_key = QStringLiteral("mqtt/station");
 }  // namespace
 
 int take_command_line(const QStringList &arguments, QSettings &remembered,
@@ -94,7 +104,21 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
         QStringLiteral("log-wire"),
         QCoreApplication::translate(
             "program", "Write every frame sent and every line received to the debug log."));
-    parser.addOptions({record, trends, log_wire});
+    const QCommandLineOption mqtt(
+        QStringLiteral("mqtt"),
+        QCoreApplication::translate(
+            "program",
+            "Publish what the devices report to the MQTT broker at <url> (mqtt://host[:port], or "
+            "mqtts://host[:port] for TLS); remembered for the next runs until \"--mqtt off\". "
+            "User name, password and CA file come from the settings file or the environment."),
+        QStringLiteral("url|off"));
+    const QCommandLineOption station(
+        QStringLiteral("station"),
+        QCoreApplication::translate("program",
+                                    "The station's name in the broker's topics (lumivox/<name>/); "
+                                    "the host name by default. Remembered; \"\" forgets it."),
+        QStringLiteral("name"));
+    parser.addOptions({record, trends, log_wire, mqtt, station});
     parser.addPositionalArgument(
         QStringLiteral("file"), QCoreApplication::translate("program", "A recording for --trends."),
         QStringLiteral("[file]"));
@@ -128,6 +152,40 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
         }
         remembered.sync();
     }
+    QString mqtt_given;
+    if (parser.isSet(mqtt)) {
+        const QString url = parser.value(mqtt);
+        broker_address address;
+        if (url == QLatin1String("off")) {
+            remembered.remove(mqtt_key);
+        } else if (broker_url::read(url, &address).isEmpty()) {
+            remembered.setValue(mqtt_key, url);
+        } else {
+            mqtt_given = url;  // reported by the window, and not remembered
+        }
+        remembered.sync();
+    }
+    if (parser.isSet(station)) {
+        const QString name = parser.value(station);
+        if (name.isEmpty()) {
+            remembered.remove(station_key);
+        } else if (!broker_message::valid_station(name)) {
+            std::fprintf(stderr, "%s\n",
+                         qPrintable(QCoreApplication::translate(
+                                        "program",
+                                        "Station name \"%1\" cannot be a topic level: at most %2 "
+                                        "characters, none of them '/', '+', '#' or control "
+                                        "characters.")
+                                        .arg(name)
+                                        .arg(broker_message::max_station_length)));
+            return 2;
+        } else {
+            remembered.setValue(station_key, name);
+        }
+        remembered.sync();
+    }
+    options->mqtt_url = mqtt_given.isEmpty() ? remembered.value(mqtt_key).toString() : mqtt_given;
+    options->station = remembered.value(station_key).toString();
     if (parser.isSet(log_wire)) {
         serial_connector::enable_wire_log();
     }
@@ -171,4 +229,107 @@ void record_window(main_window &window, recorder &rec, const QString &dir) {
     });
     trend_window::set_default_directory(dir);
     rec.start(dir);
+}
+
+namespace {
+
+QString publish_tr(const char *text) {
+    return QCoreApplication::translate("program", text);
+}
+
+}  // namespace
+
+void publish_window(main_window &window, publisher &pub, const program_options &options,
+                    const QSettings &remembered) {
+    auto *label = new QLabel(&window);
+    window.statusBar()->addPermanentWidget(label);
+    // One box at a time, and each reason in a box once: a broker that comes and goes is followed
+    // in the status bar.
+    auto boxed = std::make_shared<QSet<QString>>();
+    auto box = std::make_shared<QPointer<QMessageBox>>();
+    const auto report = [&window, label, boxed, box](const QString &why) {
+        qWarning().noquote() << "broker:" << why;
+        label->setToolTip(why);
+        window.statusBar()->showMessage(why);
+        if (boxed->contains(why) || boxed->size() >= 32) {
+            return;
+        }
+        boxed->insert(why);
+        if (*box) {
+            (*box)->setText(why);
+            return;
+        }
+        *box = new QMessageBox(QMessageBox::Warning, publish_tr("Broker"), why, QMessageBox::Ok,
+                               &window);
+        (*box)->setAttribute(Qt::WA_DeleteOnClose);
+        (*box)->setWindowModality(Qt::NonModal);
+        (*box)->show();
+    };
+
+    broker_address address;
+    const QString wrong = broker_url::read(options.mqtt_url, &address);
+    if (!wrong.isEmpty()) {
+        label->setText(publish_tr("Broker: off"));
+        report(publish_tr("Not publishing to a broker: %1.").arg(wrong));
+        return;
+    }
+    QString station = options.station;
+    if (!broker_message::valid_station(station)) {
+        if (!station.isEmpty()) {
+            qWarning().noquote() << "broker: the station name" << station
+                                 << "cannot be a topic level; the host name is used";
+        }
+        station = broker_message::station_from_host(QSysInfo::machineHostName());
+    }
+    broker_options broker;
+    broker.address = address;
+    broker.root = broker_message::root(station);
+    broker.client_id = QStringLiteral("lumivox-") + station;
+    const QString env_user = qEnvironmentVariable("LUMIVOX_MQTT_USER");
+    const QString env_password = qEnvironmentVariable("LUMIVOX_MQTT_PASSWORD");
+    broker.user = env_user.isEmpty() ? remembered.value(QStringLiteral("mqtt/user")).toString()
+                                     : env_user;
+    broker.password = env_password.isEmpty()
+                          ? remembered.value(QStringLiteral("mqtt/password")).toString()
+                          : env_password;
+    broker.ca_file = remembered.value(QStringLiteral("mqtt/ca_file")).toString();
+
+    // The label names the state and, once some were lost, the samples dropped.
+    auto state = std::make_shared<QString>(publish_tr("Broker: connecting to %1")
+                                               .arg(broker_url::text(address)));
+    const auto show = [label, state, &pub] {
+        const quint64 dropped = pub.dropped();
+        label->setText(dropped == 0 ? *state
+                                    : publish_tr("%1 (%2 samples dropped)").arg(*state).arg(dropped));
+    };
+    show();
+    auto *refresh = new QTimer(label);
+    QObject::connect(refresh, &QTimer::timeout, label, show);
+    refresh->start(2000);
+    QObject::connect(&pub, &publisher::sig_connected, label,
+                     [label, state, show, &window](const QString &url) {
+                         *state = publish_tr("Broker: connected");
+                         label->setToolTip(url);
+                         window.statusBar()->clearMessage();
+                         qInfo().noquote() << "broker: publishing to" << url;
+                         show();
+                     });
+    QObject::connect(&pub, &publisher::sig_disconnected, label,
+                     [state, show, report](const QString &why, int retry_ms) {
+                         *state = retry_ms > 0 ? publish_tr("Broker: not connected (retrying)")
+                                               : publish_tr("Broker: not connected");
+                         show();
+                         report(why);
+                     });
+
+    QObject::connect(window.observations(), &observation_hub::sig_sample, &pub, &publisher::take);
+    QObject::connect(window.serial_link(), &serial_connector::sig_connected, &pub,
+                     [&pub] { pub.set_bus(true); });
+    QObject::connect(window.serial_link(), &serial_connector::sig_disconnected, &pub,
+                     [&pub] { pub.set_bus(false); });
+    QObject::connect(&window, &main_window::sig_device_type, &pub, &publisher::set_device);
+    pub.start(broker);
+    // The port may have opened before the connections above: its state, set before each signal,
+    // is read after them.
+    pub.set_bus(window.serial_link()->polling_ready());
 }

@@ -8,6 +8,7 @@ class QObject;
 class QSettings;
 class QTranslator;
 class main_window;
+class publisher;
 class recorder;
 
 // Sets up what the program needs before its window: the translation for the user's languages
@@ -28,13 +29,17 @@ struct program_options {
     QString record_dir;   // where this run records what the devices report; empty: nowhere
     bool trends = false;  // open the live trend window with the main window
     QString trends_file;  // show this recording in a trend window instead of the main window
+    QString mqtt_url;     // the broker this run publishes to (as given); empty: none
+    QString station;      // the station's name in the broker's topics; empty: the host name
 };
 
 // Answers --help and --version before the window system is opened (they need no display): the
 // exit code, or -1 when neither is asked for.
 int answer_help(int argc, char *argv[]);
 // Reads the command line (`arguments` as QCoreApplication::arguments() gives them). `remembered`
-// keeps the recording directory between runs: "--record DIR" sets it, "--record off" clears it.
+// keeps the recording directory between runs: "--record DIR" sets it, "--record off" clears it;
+// so are the broker ("--mqtt URL", "--mqtt off"; a URL that cannot be read is used for this run
+// only, which reports it) and the station name ("--station NAME", "--station ''" for the host name).
 // Returns -1 when the program should run, else the exit code after printing the help text, the
 // version or what is wrong with the arguments.
 int take_command_line(const QStringList &arguments, QSettings &remembered,
@@ -47,3 +52,12 @@ QSettings *open_program_settings();
 // disk fills up, recording stops and the window says why in its status bar and in a box that
 // does not wait for an answer: polling goes on.
 void record_window(main_window &window, recorder &rec, const QString &dir);
+
+// Publishes what the window's devices report to the broker of `options.mqtt_url`. The user name,
+// password and certificate authority file come from the environment (LUMIVOX_MQTT_USER,
+// LUMIVOX_MQTT_PASSWORD) or from `remembered` (mqtt/user, mqtt/password, mqtt/ca_file), never from
+// the command line. The status bar says whether the broker is connected; a URL that cannot be read,
+// a refused login or a broker that cannot be reached is also said in a box that does not wait for
+// an answer (once for each reason): polling goes on, and the publisher keeps trying.
+void publish_window(main_window &window, publisher &pub, const program_options &options,
+                    const QSettings &remembered);
