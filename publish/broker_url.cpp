@@ -88,7 +88,7 @@ QString broker_url::read(const QString &text, broker_address *address) {
         }
         read_address.host = rest.mid(1, close - 1);
         if (!is_v6_address(read_address.host)) {
-            return tr("\"%1\": \"%2\" is not an IPv6 address").arg(text, read_address.host);
+            return tr("\"%1\" is not an IPv6 address").arg(read_address.host);
         }
         const QString after = rest.mid(close + 1);
         if (!after.isEmpty()) {
@@ -113,7 +113,7 @@ QString broker_url::read(const QString &text, broker_address *address) {
             return tr("\"%1\": the broker's host is missing").arg(text);
         }
         if (!is_host_name(read_address.host)) {
-            return tr("\"%1\": \"%2\" is not a host name or address").arg(text, read_address.host);
+            return tr("\"%1\" is not a host name or address").arg(read_address.host);
         }
     }
     if (!port_text.isEmpty()) {
