@@ -247,8 +247,9 @@ void publish_window(main_window &window, publisher &pub, const program_options &
     // in the status bar.
     auto boxed = std::make_shared<QSet<QString>>();
     auto box = std::make_shared<QPointer<QMessageBox>>();
-    const auto report = [&window, label, boxed, box](const QString &why) {
-        qWarning().noquote() << "broker:" << why;
+    const auto report = [&window, label, boxed, box](const QString &reason) {
+        qWarning().noquote() << "broker:" << reason;
+        const QString why = reason.left(1).toUpper() + reason.mid(1);
         label->setToolTip(why);
         window.statusBar()->showMessage(why);
         if (boxed->contains(why) || boxed->size() >= 32) {
@@ -307,11 +308,18 @@ void publish_window(main_window &window, publisher &pub, const program_options &
     QObject::connect(refresh, &QTimer::timeout, label, show);
     refresh->start(2000);
     QObject::connect(&pub, &publisher::sig_connected, label,
-                     [label, state, show, &window](const QString &url) {
+                     [label, state, show, &window, &pub](const QString &url) {
                          *state = publish_tr("Broker: connected");
                          label->setToolTip(url);
                          window.statusBar()->clearMessage();
                          qInfo().noquote() << "broker: publishing to" << url;
+                         if (const quint64 dropped = pub.dropped()) {
+                             qInfo().noquote()
+                                 << "broker:" << dropped
+                                 << "samples dropped so far while the broker was away (the "
+                                    "queue keeps the last"
+                                 << publisher::queue_capacity << ")";
+                         }
                          show();
                      });
     QObject::connect(&pub, &publisher::sig_disconnected, label,

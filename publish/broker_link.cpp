@@ -8,6 +8,9 @@
 #include <QTimer>
 
 #include <mosquitto.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -53,6 +56,11 @@ void broker_link::start() {
                  .arg(broker_url::text(options_.address))
                  .arg(connect_timeout_ms / 1000));
     });
+
+    gather_timer_ = new QTimer(this);
+    gather_timer_->setSingleShot(true);
+    gather_timer_->setInterval(gather_ms);
+    connect(gather_timer_, &QTimer::timeout, this, &broker_link::drain);
 
     client_ = mosquitto_new(options_.client_id.toUtf8().constData(), true, this);
     if (!client_) {
@@ -153,6 +161,9 @@ void broker_link::after_io(int code) {
     }
     if (accepted_ && !connected_) {
         connection_up();
+        if (!reader_) {
+            return;  // lost again while saying hello
+        }
     }
     if (code != MOSQ_ERR_SUCCESS || mosquitto_socket(client_) < 0) {
         errno = error;
@@ -235,6 +246,12 @@ bool broker_link::publish(const QByteArray &topic, const QByteArray &payload, in
     }
 }
 
+void broker_link::wake() {
+    if (!gather_timer_->isActive()) {
+        gather_timer_->start();
+    }
+}
+
 void broker_link::drain() {
     std::vector<std::pair<QByteArray, QByteArray>> retained;
     {
@@ -254,7 +271,11 @@ void broker_link::drain() {
         }
     }
     // Samples are taken while the socket keeps up: when it backs up, they wait in the bounded
-    // queue, not in the library.
+    // queue, not in the library. The socket is corked meanwhile, so the batch leaves in as few
+    // segments as the kernel can make of it: one wake-up of the broker, not one a message.
+    const int socket = mosquitto_socket(client_);
+    const int on = 1, off = 0;
+    setsockopt(socket, IPPROTO_TCP, TCP_CORK, &on, sizeof on);
     std::vector<device_sample> batch;
     while (connected_ && !mosquitto_want_write(client_)) {
         batch.clear();
@@ -274,6 +295,10 @@ void broker_link::drain() {
                 return;
             }
         }
+        queue_.published.fetch_add(batch.size());
+    }
+    if (connected_) {
+        setsockopt(socket, IPPROTO_TCP, TCP_CORK, &off, sizeof off);
     }
     if (writer_) {
         writer_->setEnabled(mosquitto_want_write(client_));

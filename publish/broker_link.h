@@ -39,8 +39,9 @@ struct publish_queue {
     std::deque<device_sample> samples;
     std::map<QByteArray, QByteArray> retained;  // topic -> payload
     std::set<QByteArray> changed;               // retained topics not yet published
-    bool wake_posted = false;  // a drain() is on its way, or waits for the connection
+    bool wake_posted = false;  // a wake() is on its way, or the link waits to drain
     std::atomic<quint64> dropped{0};
+    std::atomic<quint64> published{0};  // samples handed to the connection
 };
 
 // The publisher's other half, living in a thread of its own: one connection to the broker through
@@ -57,12 +58,17 @@ public:
     static constexpr int connect_timeout_ms = 10000;
     // Waited at most at the end for "offline" and the goodbye to leave.
     static constexpr int goodbye_ms = 2000;
+    // What the publisher queues is gathered this long before it is published: the thread wakes a
+    // few times a second at full rate instead of once a sample.
+    static constexpr int gather_ms = 250;
 
     explicit broker_link(publish_queue &queue);
     ~broker_link() override;
 
     // Reads the options from the queue and makes the first connection attempt.
     void start();
+    // Something was queued: published within gather_ms.
+    void wake();
     // Publishes what the queue holds, as far as the connection takes it now.
     void drain();
     // The clean end: "offline" on the status topic, then the connection is closed.
@@ -94,6 +100,7 @@ private:
     QTimer *misc_timer_ = nullptr;
     QTimer *retry_timer_ = nullptr;
     QTimer *connect_timer_ = nullptr;
+    QTimer *gather_timer_ = nullptr;
     int retry_ms_ = first_retry_ms;
     bool connected_ = false;
     bool accepted_ = false;    // set by on_connect for the current attempt

@@ -67,6 +67,18 @@ quint64 publisher::dropped() const {
     return queue_ ? queue_->dropped.load() : 0;
 }
 
+quint64 publisher::published() const {
+    return queue_ ? queue_->published.load() : 0;
+}
+
+std::size_t publisher::waiting() const {
+    if (!queue_) {
+        return 0;
+    }
+    std::lock_guard<std::mutex> hold(queue_->lock);
+    return queue_->samples.size();
+}
+
 void publisher::take(const device_sample &sample) {
     if (!link_) {
         return;
@@ -112,7 +124,7 @@ void publisher::retain(const QByteArray &topic, const QByteArray &payload) {
         post = !std::exchange(queue_->wake_posted, true);
     }
     if (post) {
-        QMetaObject::invokeMethod(link_, &broker_link::drain, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(link_, &broker_link::wake, Qt::QueuedConnection);
     }
 }
 
@@ -129,6 +141,6 @@ void publisher::push(const device_sample &sample) {
     }
     // One wake-up at a time: the link takes everything queued when it comes.
     if (post) {
-        QMetaObject::invokeMethod(link_, &broker_link::drain, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(link_, &broker_link::wake, Qt::QueuedConnection);
     }
 }

@@ -36,8 +36,10 @@ public:
     void start(const broker_options &options);
     void stop();
     bool running() const { return link_ != nullptr; }
-    // Samples dropped so far because the queue was full.
+    // Samples dropped so far because the queue was full, handed to the connection, and waiting.
     quint64 dropped() const;
+    quint64 published() const;
+    std::size_t waiting() const;
 
 public slots:
     void take(const device_sample &sample);
