@@ -308,7 +308,8 @@ private slots:
         QCOMPARE(program->process.exitCode(), 0);
         QTRY_VERIFY_WITH_TIMEOUT(sub->has("lumivox/test/status offline"), wait_ms);
         // Said by the program before its goodbye, not by the broker's will.
-        QVERIFY2(broker->has("Received DISCONNECT from lumivox-test"), broker->output.constData());
+        QTRY_VERIFY2_WITH_TIMEOUT(broker->has("Received DISCONNECT from lumivox-test"),
+                                  broker->output.constData(), wait_ms);
     }
 };
 

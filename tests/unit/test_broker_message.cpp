@@ -67,6 +67,7 @@ private slots:
         if (port == 0) {
             QVERIFY(!wrong.isEmpty());
             QVERIFY(wrong.size() < 500);  // a hostile URL is not echoed at length
+            QVERIFY(!wrong.contains(QLatin1String("secret")));  // nor a password in it
             QCOMPARE(address.host, QStringLiteral("untouched"));
             return;
         }
