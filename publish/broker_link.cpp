@@ -313,19 +313,28 @@ void broker_link::finish() {
     connect_timer_->stop();
     if (connected_) {
         forget_socket();
-        // Said in order before the goodbye, so the broker keeps "offline" and does not send the
-        // will.
-        mosquitto_publish(client_, nullptr,
-                          broker_message::status_topic(options_.root).constData(), 7, "offline",
-                          qos_retained, true);
+        // "offline" first, so the broker keeps it and does not send the will. Its receipt is
+        // awaited before the goodbye: the socket is then closed with nothing unread in it, which
+        // would otherwise make the system reset the connection and lose the goodbye.
+        mosquitto_publish_callback_set(client_, &broker_link::on_publish);
+        int mid = 0;
+        if (mosquitto_publish(client_, &mid,
+                              broker_message::status_topic(options_.root).constData(), 7,
+                              "offline", qos_retained, true) == MOSQ_ERR_SUCCESS) {
+            goodbye_mid_ = mid;
+            QElapsedTimer waited;
+            waited.start();
+            while (!goodbye_acked_ && waited.elapsed() < goodbye_ms &&
+                   mosquitto_loop(client_, 50, 1) == MOSQ_ERR_SUCCESS) {
+            }
+        }
+        // Written at once; the library closes the socket behind it.
         mosquitto_disconnect(client_);
         QElapsedTimer waited;
         waited.start();
         while (mosquitto_socket(client_) >= 0 && mosquitto_want_write(client_) &&
-               waited.elapsed() < goodbye_ms) {
-            if (mosquitto_loop(client_, 50, 1) != MOSQ_ERR_SUCCESS) {
-                break;
-            }
+               waited.elapsed() < goodbye_ms &&
+               mosquitto_loop(client_, 50, 1) == MOSQ_ERR_SUCCESS) {
         }
         connected_ = false;
     }
@@ -340,6 +349,13 @@ void broker_link::on_connect(mosquitto *, void *self, int code) {
         link->accepted_ = true;
     } else {
         link->refused_code_ = code;
+    }
+}
+
+void broker_link::on_publish(mosquitto *, void *self, int mid) {
+    auto *link = static_cast<broker_link *>(self);
+    if (mid == link->goodbye_mid_) {
+        link->goodbye_acked_ = true;
     }
 }
 

@@ -81,6 +81,7 @@ signals:
 
 private:
     static void on_connect(mosquitto *client, void *self, int code);
+    static void on_publish(mosquitto *client, void *self, int mid);
     static void on_log(mosquitto *client, void *self, int level, const char *text);
 
     void attempt();
@@ -106,5 +107,7 @@ private:
     bool accepted_ = false;    // set by on_connect for the current attempt
     int refused_code_ = 0;     // the broker's refusal, 0 if none
     QString last_error_;       // the library's last error message
+    int goodbye_mid_ = -1;     // the message id of the last "offline"
+    bool goodbye_acked_ = false;
     record_format::time_writer times_;
 };
