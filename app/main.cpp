@@ -1,5 +1,6 @@
 #include "main_window.h"
 #include "program.h"
+#include "publish_window.h"
 #include "publisher.h"
 #include "recorder.h"
 #include "trend_window.h"

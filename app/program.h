@@ -8,7 +8,6 @@ class QObject;
 class QSettings;
 class QTranslator;
 class main_window;
-class publisher;
 class recorder;
 
 // Sets up what the program needs before its window: the translation for the user's languages
@@ -52,12 +51,3 @@ QSettings *open_program_settings();
 // disk fills up, recording stops and the window says why in its status bar and in a box that
 // does not wait for an answer: polling goes on.
 void record_window(main_window &window, recorder &rec, const QString &dir);
-
-// Publishes what the window's devices report to the broker of `options.mqtt_url`. The user name,
-// password and certificate authority file come from the environment (LUMIVOX_MQTT_USER,
-// LUMIVOX_MQTT_PASSWORD) or from `remembered` (mqtt/user, mqtt/password, mqtt/ca_file), never from
-// the command line. The status bar says whether the broker is connected; a URL that cannot be read,
-// a refused login or a broker that cannot be reached is also said in a box that does not wait for
-// an answer (once for each reason): polling goes on, and the publisher keeps trying.
-void publish_window(main_window &window, publisher &pub, const program_options &options,
-                    const QSettings &remembered);

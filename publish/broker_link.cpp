@@ -22,12 +22,15 @@ namespace {
 constexpr int qos_samples = 0;  // a lost sample is followed by the next one
 constexpr int qos_retained = 1;
 
+// Taken at the end of the constructor (in the publisher's GUI thread) and at the start of start()
+// in the link's thread: what the constructor wrote is seen to happen before, also by the thread
+// sanitizer, which cannot see the hand-over inside Qt's event queue.
+std::mutex construction;
+
 }  // namespace
 
 broker_link::broker_link(publish_queue &queue) : queue_(queue) {
-    // Taken here and at the start of start() in the link's thread: what the constructor wrote is
-    // seen to happen before, also by the thread sanitizer.
-    std::lock_guard<std::mutex> published(queue_.lock);
+    std::lock_guard<std::mutex> published(construction);
 }
 
 broker_link::~broker_link() {
@@ -38,6 +41,7 @@ broker_link::~broker_link() {
 }
 
 void broker_link::start() {
+    { std::lock_guard<std::mutex> seen(construction); }
     {
         std::lock_guard<std::mutex> hold(queue_.lock);
         options_ = queue_.options;
