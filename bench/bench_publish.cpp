@@ -11,9 +11,11 @@
 // Soak: the real `lumivox` polls eight simulated devices and publishes; the broker is stopped
 // (SIGTERM and SIGKILL in turn) and started again, a hundred times; after each start a subscriber
 // waits for a fresh reading. The program's resident memory is printed every ten restarts. Then the
-// broker stays away long enough for the bounded queue to fill and drop.
+// broker stays away for a while, and publishing must resume. In between, the queue's bound: a
+// publisher whose broker cannot be reached takes replies back to back until it drops the oldest,
+// and the process's memory stops growing.
 //
-//     bench_publish [seconds of real time, 10] [restarts, 100] [seconds away, 150] [lumivox program]
+//     bench_publish [seconds of real time, 10] [restarts, 100] [seconds away, 90] [lumivox program]
 #include "bench_panels.h"
 #include "publisher.h"
 #include "broker_message.h"
@@ -248,6 +250,37 @@ void measure_cost(int seconds, int port, const QString &dir) {
                 static_cast<unsigned long long>(published), int(received.readAll().count('\n')));
 }
 
+// The queue's bound: replies taken back to back while the broker cannot be reached, and the
+// process's resident memory after each round.
+void queue_bound() {
+    bench_bus bus;
+    observation_hub hub;
+    bus.watch(hub);
+    publisher pub;
+    broker_options options;
+    options.address = broker_address{false, QStringLiteral("127.0.0.1"), free_port()};
+    options.root = broker_message::root(QStringLiteral("bench"));
+    options.client_id = QStringLiteral("lumivox-bench");
+    QObject::connect(&hub, &observation_hub::sig_sample, &pub, &publisher::take);
+    pub.start(options);
+    const qint64 self = QCoreApplication::applicationPid();
+    std::printf("the broker away, replies taken back to back (queue of %d samples):\n",
+                int(publisher::queue_capacity));
+    std::printf("  before: RSS %.1f MB\n", memory_kb(self, "VmRSS") / 1024.0);
+    int replies = 0;
+    for (const int round : {5000, 20000, 100000, 400000}) {
+        for (int i = 0; i < round; ++i) {
+            bus.reply();
+        }
+        replies += round;
+        run_until(100, [] { return false; });
+        std::printf("  after %6d replies: %5zu samples waiting, %6llu dropped, RSS %.1f MB\n",
+                    replies, pub.waiting(), static_cast<unsigned long long>(pub.dropped()),
+                    memory_kb(self, "VmRSS") / 1024.0);
+    }
+    std::fflush(stdout);
+}
+
 void soak(const QString &program, int restarts, int outage_s, int port, const QString &dir) {
     sim_bus bus;
     for (int i = 0; i < devices; ++i) {
@@ -340,7 +373,7 @@ void soak(const QString &program, int restarts, int outage_s, int port, const QS
             std::fflush(stdout);
         }
     }
-    // One long outage: the queue fills up and drops the oldest, and memory stops growing.
+    // One long outage: the retries back off to their longest, the samples wait in the queue.
     if (outage_s > 0 && lumivox.state() == QProcess::Running) {
         broker.stop(SIGKILL);
         long most = 0;
@@ -397,7 +430,7 @@ int main(int argc, char *argv[]) {
     QApplication app(argc, argv);
     const int seconds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 10;
     const int restarts = argc > 2 ? std::max(0, std::atoi(argv[2])) : 100;
-    const int outage_s = argc > 3 ? std::max(0, std::atoi(argv[3])) : 150;
+    const int outage_s = argc > 3 ? std::max(0, std::atoi(argv[3])) : 90;
     const QString program =
         argc > 4 ? QString::fromLocal8Bit(argv[4]) : QStringLiteral(LUMIVOX_EXE);
     QTemporaryDir dir;
@@ -411,6 +444,7 @@ int main(int argc, char *argv[]) {
         run_until(500, [] { return false; });
         measure_cost(seconds, port, dir.path());
     }
+    queue_bound();
     if (restarts > 0) {
         soak(program, restarts, outage_s, port, dir.path());
     }
