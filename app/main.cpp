@@ -1,6 +1,8 @@
 #include "device_service.h"
 #include "main_window.h"
 #include "program.h"
+#include "publish_window.h"
+#include "publisher.h"
 #include "recorder.h"
 #include "trend_window.h"
 #include "working_place.h"
@@ -44,6 +46,10 @@ int main(int argc, char *argv[]) {
     recorder rec;
     if (!options.record_dir.isEmpty()) {
         record_window(window, rec, options.record_dir);
+    }
+    publisher pub;
+    if (!options.mqtt_url.isEmpty()) {
+        publish_window(window, pub, options, *settings);
     }
     window.show();
     if (options.trends) {

@@ -283,6 +283,12 @@ void main_window::create_device(int can_id, const QString &name, int slot) {
                                     .arg(frame_codec::max_can_id, 0, 16);
     }
     connect(dev, &device::sig_change_ui_widget, this, &main_window::sl_change_ui_widget);
+    connect(dev, &device::sig_type_changed, this, [this](device *changed, int type_id) {
+        const panel_registry::entry *entry =
+            (registry_ ? registry_ : &panel_registry::instance())->find(type_id);
+        emit sig_device_type(changed->can_id(), changed->name(), type_id,
+                             entry ? entry->model : QString());
+    });
     dev->listen_to(serial_);
 
     auto *container = new QWidget;

@@ -87,6 +87,9 @@ signals:
     void sig_disconnect();
     void key_event();
     void sig_send_command(QString text);
+    // A device answered with its type (`model` from the registry, empty for an unknown type), or
+    // fell silent and was forgotten (`type_id` -1).
+    void sig_device_type(int can_id, const QString &name, int type_id, const QString &model);
 
 public slots:
     void on_main_menu_butt_clicked();

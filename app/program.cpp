@@ -1,5 +1,7 @@
 #include "program.h"
 
+#include "broker_message.h"
+#include "broker_url.h"
 #include "build_info.h"
 #include "device_service.h"
 #include "main_window.h"
@@ -74,6 +76,8 @@ void prepare_program(QApplication &app, QTranslator &translator) {
 
 namespace {
 const QString record_key = QStringLiteral("record/directory");
+const QString mqtt_key = QStringLiteral("mqtt/url");
+const QString station_key = QStringLiteral("mqtt/station");
 }  // namespace
 
 int take_command_line(const QStringList &arguments, QSettings &remembered,
@@ -99,7 +103,21 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
         QStringLiteral("log-wire"),
         QCoreApplication::translate(
             "program", "Write every frame sent and every line received to the debug log."));
-    parser.addOptions({record, trends, log_wire});
+    const QCommandLineOption mqtt(
+        QStringLiteral("mqtt"),
+        QCoreApplication::translate(
+            "program",
+            "Publish what the devices report to the MQTT broker at <url> (mqtt://host[:port], or "
+            "mqtts://host[:port] for TLS); remembered for the next runs until \"--mqtt off\". "
+            "User name, password and CA file come from the settings file or the environment."),
+        QStringLiteral("url|off"));
+    const QCommandLineOption station(
+        QStringLiteral("station"),
+        QCoreApplication::translate("program",
+                                    "The station's name in the broker's topics (lumivox/<name>/); "
+                                    "the host name by default. Remembered; \"\" forgets it."),
+        QStringLiteral("name"));
+    parser.addOptions({record, trends, log_wire, mqtt, station});
     // Where the run works (see working_place.h); from a terminal, the current directory.
     const QCommandLineOption user_dir(
         QStringLiteral("user-dir"),
@@ -188,6 +206,40 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
         }
         remembered.sync();
     }
+    QString mqtt_given;
+    if (parser.isSet(mqtt)) {
+        const QString url = parser.value(mqtt);
+        broker_address address;
+        if (url == QLatin1String("off")) {
+            remembered.remove(mqtt_key);
+        } else if (broker_url::read(url, &address).isEmpty()) {
+            remembered.setValue(mqtt_key, url);
+        } else {
+            mqtt_given = url;  // reported by the window, and not remembered
+        }
+        remembered.sync();
+    }
+    if (parser.isSet(station)) {
+        const QString name = parser.value(station);
+        if (name.isEmpty()) {
+            remembered.remove(station_key);
+        } else if (!broker_message::valid_station(name)) {
+            std::fprintf(stderr, "%s\n",
+                         qPrintable(QCoreApplication::translate(
+                                        "program",
+                                        "Station name \"%1\" cannot be a topic level: at most %2 "
+                                        "characters, none of them '/', '+', '#' or control "
+                                        "characters.")
+                                        .arg(name)
+                                        .arg(broker_message::max_station_length)));
+            return 2;
+        } else {
+            remembered.setValue(station_key, name);
+        }
+        remembered.sync();
+    }
+    options->mqtt_url = mqtt_given.isEmpty() ? remembered.value(mqtt_key).toString() : mqtt_given;
+    options->station = remembered.value(station_key).toString();
     if (parser.isSet(log_wire)) {
         serial_connector::enable_wire_log();
     }

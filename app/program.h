@@ -37,13 +37,17 @@ struct program_options {
     bool yes = false;      // --yes: a restore writes without asking
     int timeout_s = 30;    // --timeout S: how long to wait for the devices
     bool monitor = false;  // open the bus monitor with the main window
+    QString mqtt_url;     // the broker this run publishes to (as given); empty: none
+    QString station;      // the station's name in the broker's topics; empty: the host name
 };
 
 // Answers --help and --version before the window system is opened (they need no display): the
 // exit code, or -1 when neither is asked for.
 int answer_help(int argc, char *argv[]);
 // Reads the command line (`arguments` as QCoreApplication::arguments() gives them). `remembered`
-// keeps the recording directory between runs: "--record DIR" sets it, "--record off" clears it.
+// keeps the recording directory between runs: "--record DIR" sets it, "--record off" clears it;
+// so are the broker ("--mqtt URL", "--mqtt off"; a URL that cannot be read is used for this run
+// only, which reports it) and the station name ("--station NAME", "--station ''" for the host name).
 // Returns -1 when the program should run, else the exit code after printing the help text, the
 // version or what is wrong with the arguments.
 int take_command_line(const QStringList &arguments, QSettings &remembered,

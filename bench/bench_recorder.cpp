@@ -11,10 +11,8 @@
 // redraw is printed for one chart of eight series and for three charts of eight.
 //
 //     bench_recorder [seconds of real time, 10 by default]
+#include "bench_panels.h"
 #include "observation_hub.h"
-#include "panel_base.h"
-#include "panel_registry.h"
-#include "panels.h"
 #include "recorder.h"
 #include "trend_window.h"
 
@@ -29,62 +27,10 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <random>
 #include <vector>
 
-#include <sys/resource.h>
-
 namespace {
-
-constexpr int devices = 8;
-constexpr int tick_ms = 10;
-constexpr int replies_per_second = 1000 / tick_ms;
-
-// CPU time of the process, every thread, in milliseconds.
-double cpu_ms() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return (usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1e3 +
-           (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e3;
-}
-
-// Eight panels of the CW driver as the devices build them, and the replies they poll for.
-struct bench_bus {
-    panel_registry registry;
-    std::vector<std::unique_ptr<panel_base>> panels;
-    std::vector<int> position;
-    std::mt19937 noise{17};
-    int next = 0;
-
-    bench_bus() {
-        register_panels(registry);
-        for (int i = 0; i < devices; ++i) {
-            panels.emplace_back(dynamic_cast<panel_base *>(registry.create(14, nullptr)));
-            panels.back()->set_display_name(QStringLiteral("Bench %1").arg(i + 1));
-            position.push_back(0);
-        }
-    }
-    // One tick: the next device's next poll code answered with a value near 5000.
-    void reply() {
-        panel_base &panel = *panels[std::size_t(next)];
-        const QVector<int> &codes = panel.plan().read_codes;
-        int &at = position[std::size_t(next)];
-        int code = poll_plan::silent;
-        while (code == poll_plan::silent) {
-            code = codes[at];
-            at = (at + 1) % codes.size();
-        }
-        std::uniform_int_distribution<int> wobble(-20, 20);
-        panel.sl_parsed_data_received(code, 5000 + wobble(noise));
-        next = (next + 1) % devices;
-    }
-    void watch(observation_hub &hub) {
-        for (int i = 0; i < devices; ++i) {
-            hub.watch(i + 1, panels[std::size_t(i)]->display_name(), panels[std::size_t(i)].get());
-        }
-    }
-};
 
 // CPU milliseconds for `replies` replies taken back to back, recording into `dir` or not.
 double burst_ms(int replies, const QString &dir) {

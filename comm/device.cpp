@@ -105,6 +105,7 @@ void device::tick() {
     if (type != previous_type_id_) {
         previous_type_id_ = type;
         rebuild_panel();
+        emit sig_type_changed(this, type);
     }
 }
 

@@ -70,6 +70,8 @@ signals:
     void sig_refresh_state();
     void sig_send_command(QString frame);
     void sig_parsed_data_received(int code, long value);
+    // The device's type was learned, changed, or forgotten after silence (-1); GUI thread.
+    void sig_type_changed(device *dev, int type_id);
 
 public slots:
     // Thread-safe: called in the device's thread (queued) or in the link's (listen_to()).

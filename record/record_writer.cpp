@@ -6,20 +6,12 @@
 #include <QFileInfo>
 #include <QTime>
 
-#include <algorithm>
-
 namespace {
 
 // Taken at the end of the constructor (in the recorder's GUI thread) and at the start of every call
 // in the writer's thread: what the constructor wrote is seen to happen before, also by the thread
 // sanitizer, which cannot see the hand-over inside Qt's event queue.
 std::mutex construction;
-
-QString series_key(const device_sample &s) {
-    const QChar gap(0x1f);
-    return QString::number(s.can_id) + gap + s.device + gap + QString::number(s.kind) + gap +
-           s.quantity + gap + s.unit;
-}
 
 // Start of the local day `days` after the one holding `ms`.
 qint64 local_midnight(qint64 ms, int days) {
@@ -30,7 +22,7 @@ qint64 local_midnight(qint64 ms, int days) {
 }  // namespace
 
 record_writer::record_writer(record_queue &queue, qint64 steady_repeat_ms)
-    : queue_(queue), steady_repeat_ms_(steady_repeat_ms) {
+    : queue_(queue), steady_(steady_repeat_ms) {
     std::lock_guard<std::mutex> published(construction);
 }
 
@@ -70,7 +62,7 @@ bool record_writer::start_file(qint64 start_ms) {
         return false;
     }
     next_midnight_ms_ = local_midnight(start_ms, 1);
-    series_.clear();
+    steady_.clear();
     out_ = record_format::header() + '\n';
     emit sig_file_started(path);
     return true;
@@ -101,7 +93,9 @@ void record_writer::write(const QVector<device_sample> &batch) {
                 return;
             }
         }
-        take(sample);
+        steady_.take(sample, [this](const device_sample &passed) {
+            record_format::append_line(out_, passed, times_);
+        });
     }
     if (file_.write(out_) != out_.size() || !file_.flush()) {
         fail(tr("Recording stopped: cannot write to %1 (%2).")
@@ -110,43 +104,9 @@ void record_writer::write(const QVector<device_sample> &batch) {
     out_.clear();
 }
 
-void record_writer::take(const device_sample &sample) {
-    if (sample.kind == panel_observation::setpoint || sample.kind == panel_observation::parameter) {
-        record_format::append_line(out_, sample, times_);
-        return;
-    }
-    series_state &s = series_[series_key(sample)];
-    if (!s.seen || sample.value != s.value) {
-        if (s.holding) {
-            record_format::append_line(out_, s.held, times_);
-        }
-        record_format::append_line(out_, sample, times_);
-        s.seen = true;
-        s.value = sample.value;
-        s.written_ms = sample.ms;
-        s.holding = false;
-    } else if (sample.ms - s.written_ms >= steady_repeat_ms_) {
-        record_format::append_line(out_, sample, times_);
-        s.written_ms = sample.ms;
-        s.holding = false;
-    } else {
-        s.held = sample;
-        s.holding = true;
-    }
-}
-
 void record_writer::write_held() {
-    QVector<const device_sample *> held;
-    for (series_state &s : series_) {
-        if (s.holding) {
-            held.append(&s.held);
-            s.holding = false;
-        }
-    }
-    std::sort(held.begin(), held.end(),
-              [](const device_sample *a, const device_sample *b) { return a->ms < b->ms; });
-    for (const device_sample *sample : qAsConst(held)) {
-        record_format::append_line(out_, *sample, times_);
+    for (const device_sample &sample : steady_.take_held()) {
+        record_format::append_line(out_, sample, times_);
     }
 }
 
@@ -174,7 +134,7 @@ void record_writer::finish() {
 void record_writer::fail(const QString &why) {
     failed_ = true;
     out_.clear();
-    series_.clear();
+    steady_.clear();
     if (file_.isOpen()) {
         file_.close();
     }

@@ -2,10 +2,10 @@
 
 #include "device_sample.h"
 #include "record_format.h"
+#include "repeat_filter.h"
 
 #include <QByteArray>
 #include <QFile>
-#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QVector>
@@ -42,28 +42,18 @@ signals:
     void sig_file_started(const QString &path);
 
 private:
-    struct series_state {
-        bool seen = false;
-        double value = 0;
-        qint64 written_ms = 0;
-        bool holding = false;  // `held` was taken but not written
-        device_sample held;
-    };
-
     void write(const QVector<device_sample> &batch);
     bool start_file(qint64 start_ms);
-    void take(const device_sample &sample);
     void write_held();
     void fail(const QString &why);
 
     record_queue &queue_;
     QString directory_;
-    const qint64 steady_repeat_ms_;
     QFile file_;
     qint64 next_midnight_ms_ = 0;
     QByteArray out_;
     record_format::time_writer times_;
-    QHash<QString, series_state> series_;
+    repeat_filter steady_;
     bool opened_ = false;
     bool failed_ = false;
 };
