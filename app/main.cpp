@@ -13,6 +13,10 @@ int main(int argc, char *argv[]) {
     if (const int code = answer_help(argc, argv); code >= 0) {
         return code;
     }
+    if (headless_requested(argc, argv)) {
+        // Nothing is drawn without a window: Qt's offscreen platform needs no display.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     QApplication app(argc, argv);
     QTranslator translator;
     prepare_program(app, translator);
@@ -33,6 +37,17 @@ int main(int argc, char *argv[]) {
     recorder rec;
     if (!options.record_dir.isEmpty()) {
         record_window(window, rec, options.record_dir);
+    }
+    std::unique_ptr<remote_service> remote;
+    if (!options.listen.isEmpty()) {
+        remote = serve_window(window, options, *settings);
+    }
+    if (options.headless) {
+        const int code = app.exec();
+        // A signal closes the windows on show; this one never was, so it is closed here, which
+        // saves the configuration as closing the window does.
+        window.close();
+        return code;
     }
     window.show();
     if (options.trends) {

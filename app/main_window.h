@@ -79,6 +79,8 @@ signals:
     void sig_disconnect();
     void key_event();
     void sig_send_command(QString text);
+    // A panel was placed for `dev` (its type was learnt, or learnt again after a loss).
+    void sig_panel_placed(device *dev);
 
 public slots:
     void on_main_menu_butt_clicked();

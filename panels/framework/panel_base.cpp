@@ -547,6 +547,39 @@ bool panel_base::request_emission(bool on) {
     return true;
 }
 
+bool panel_base::parameters_writable() const {
+    return dialog_available_ && all_parameters_known() && configuration_allowed();
+}
+
+panel_base::setpoint_result panel_base::write_parameter(int code, double value) {
+    const auto record = std::find_if(parameters_.cbegin(), parameters_.cend(),
+                                     [code](const parameter_record &r) { return r.code == code; });
+    if (record == parameters_.cend()) {
+        return setpoint_result::unknown_key;
+    }
+    if (!parameters_writable()) {
+        return setpoint_result::not_allowed;
+    }
+    // The dialog's spin box: the row's decimals, from 0 to the largest unsigned 32-bit word.
+    const double shown = QString::number(value, 'f', record->decimals).toDouble();
+    if (!std::isfinite(value) || shown < 0 || shown > config_dialog::maximum_value) {
+        return setpoint_result::out_of_range;
+    }
+    queue_command(code, scaling::to_wire(shown, scaling::pow10(record->decimals)));
+    queue_read(code);
+    return setpoint_result::queued;
+}
+
+bool panel_base::store_parameters() {
+    if (!parameters_writable()) {
+        return false;
+    }
+    for (const panel_command &command : qAsConst(store_commands_)) {
+        queue_.append(command);
+    }
+    return true;
+}
+
 bool panel_base::eventFilter(QObject *watched, QEvent *event) {
     auto *widget = qobject_cast<QWidget *>(watched);
     if (event->type() == QEvent::Wheel && watched_.contains(widget)) {

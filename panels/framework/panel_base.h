@@ -108,6 +108,17 @@ public:
     bool has_emission() const { return !emission_write_codes_.isEmpty(); }
     bool request_emission(bool on);
 
+    // --- Configuration parameters for callers without widgets (scripts) ------------------------
+    // Writes the parameter with `code` as the configuration dialog does, then reads it back: the
+    // dialog's decimals and range apply, then the same scale and truncation. `not_allowed` while
+    // the operator could not open the dialog (the panel has none, a row is not yet reported, or
+    // emission or the TEC is on); `unknown_key` for a code that is not a row of the panel.
+    setpoint_result write_parameter(int code, double value);
+    // Whether write_parameter() and store_parameters() may send now.
+    bool parameters_writable() const;
+    // Queues the store commands that the dialog's "Write" ends with; false when not allowed.
+    bool store_parameters();
+
     // The note shown in the configuration dialog unless the panel gives its own: how to reach a
     // device for changing its CAN id.
     static QString usb_can_id_hint();
