@@ -15,6 +15,7 @@ struct command_server::client {
     command_session session;
     QByteArray pending;       // read, not yet run; never more than a line and its terminator
     bool discarding = false;  // inside a line that was too long, until its end
+    bool waiting = false;     // its answers are not being taken: read on once they are
 };
 
 command_server::command_server(instrument &target, QObject *parent)
@@ -60,7 +61,11 @@ void command_server::accept() {
         clients_.push_back(std::make_unique<client>(socket, target_));
         client *c = clients_.back().get();
         connect(socket, &QTcpSocket::readyRead, this, [this, c] { serve(c); });
-        connect(socket, &QTcpSocket::bytesWritten, this, [this, c] { serve(c); });
+        connect(socket, &QTcpSocket::bytesWritten, this, [this, c] {
+            if (c->waiting) {
+                serve(c);
+            }
+        });
         connect(socket, &QTcpSocket::disconnected, this, [this, c] { drop(c); });
         emit sig_clients_changed(clients());
     }
@@ -68,7 +73,12 @@ void command_server::accept() {
 
 void command_server::serve(client *c) {
     QTcpSocket *socket = c->socket;
-    while (socket->bytesToWrite() < max_unsent_bytes) {
+    c->waiting = false;
+    while (true) {
+        if (socket->bytesToWrite() >= max_unsent_bytes) {
+            c->waiting = true;
+            return;
+        }
         const int end = c->pending.indexOf('\n');
         if (end < 0) {
             // A line still without its end that is already too long (a carriage return may yet
