@@ -350,6 +350,22 @@ private slots:
         QCOMPARE(bus.find(cw_id)->set_point(18), wire_before);
     }
 
+    // A device gone silent answers as lost, with the model and type it had; back, as found.
+    void lost_device_keeps_its_model() {
+        auto client = connect_client();
+        QVERIFY(client);
+        const QByteArray found = ask(*client, "DEV4:IDN?");
+        QVERIFY(found.endsWith(",4,FOUND"));
+        QByteArray lost = found;
+        lost.replace("FOUND", "LOST");
+        bus.find(heater_id)->set_silent(true);
+        QTRY_COMPARE_WITH_TIMEOUT(ask(*client, "DEV4:IDN?"), lost, 15000);
+        client->write("DEV4:READ:LIST?\n");
+        QCOMPARE(next_error(*client), -241);
+        bus.find(heater_id)->set_silent(false);
+        QTRY_COMPARE_WITH_TIMEOUT(ask(*client, "DEV4:IDN?"), found, 15000);
+    }
+
     void ninth_client_is_closed() {
         QTRY_COMPARE(service->server->clients(), 0);  // the earlier tests' clients have gone
         std::vector<std::unique_ptr<QTcpSocket>> clients;
