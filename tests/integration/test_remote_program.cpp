@@ -200,8 +200,12 @@ private slots:
         QTest::newRow("binary bytes") << QByteArray("\x00\xff*IDN?", 7) << 1 << E{-101};
         QTest::newRow("line of 4096 bytes runs")
             << QByteArray("*CLS") + QByteArray(4092, ' ') << 1 << E{};
+        QTest::newRow("line of 4096 bytes and a carriage return runs")
+            << QByteArray("*CLS") + QByteArray(4092, ' ') + '\r' << 1 << E{};
         QTest::newRow("line of 4097 bytes")
             << QByteArray("*IDN?") + QByteArray(4092, ' ') << 1 << E{-223};
+        QTest::newRow("line of 4097 bytes and a carriage return")
+            << QByteArray("*IDN?") + QByteArray(4092, ' ') + '\r' << 1 << E{-223};
         QTest::newRow("line of 100000 bytes, one error")
             << QByteArray(100000, 'A') << 1 << E{-223};
         E overflow;
@@ -218,7 +222,7 @@ private slots:
         QVERIFY(client);
         const int frames = bus.frames();
         for (int i = 0; i < repeat; ++i) {
-            client->write(text + "\r\n");
+            client->write(text + '\n');
         }
         QList<int> queued;
         for (int code = next_error(*client); code != 0 && queued.size() < 20;
