@@ -132,8 +132,8 @@ int take_command_line(const QStringList &arguments, QSettings &remembered,
         QStringLiteral("remote-control"),
         QCoreApplication::translate(
             "program",
-            "Let command-server clients change set-points, emission and parameters; remembered "
-            "for the next runs until \"--remote-control off\"."),
+            "Let command-server clients change set-points, emission and parameters (the option "
+            "alone means on); remembered for the next runs until \"--remote-control off\"."),
         QStringLiteral("on|off"));
     const QCommandLineOption headless(
         QStringLiteral("headless"),

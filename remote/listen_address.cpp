@@ -1,6 +1,7 @@
 #include "listen_address.h"
 
 #include <QAbstractSocket>
+#include <QRegularExpression>
 
 std::optional<listen_address> listen_address::parse(const QString &text, QString *error) {
     listen_address where;
@@ -16,6 +17,10 @@ std::optional<listen_address> listen_address::parse(const QString &text, QString
             }
         } else if (host.contains(QLatin1Char(':'))) {
             host.clear();  // an IPv6 address needs its brackets
+        } else if (!QRegularExpression(QStringLiteral("^\\d{1,3}(\\.\\d{1,3}){3}$"))
+                        .match(host)
+                        .hasMatch()) {
+            host.clear();  // four numbers: "1.2.3" is not read as 1.2.0.3
         }
         if (host.isEmpty() || !where.address.setAddress(host)) {
             *error = QStringLiteral("\"%1\" is not an IP address (IPv6 in brackets)")

@@ -259,6 +259,8 @@ private slots:
         QTest::newRow("IPv6 without brackets") << "::1:5025" << QString() << false;
         QTest::newRow("IPv4 in brackets") << "[127.0.0.1]:5025" << QString() << false;
         QTest::newRow("host name") << "localhost:5025" << QString() << false;
+        QTest::newRow("three numbers") << "1.2.3:5025" << QString() << false;
+        QTest::newRow("a number too large") << "1.2.3.256:5025" << QString() << false;
         QTest::newRow("port too large") << "65536" << QString() << false;
         QTest::newRow("not a port") << "50x" << QString() << false;
         QTest::newRow("signed port") << "+5025" << QString() << false;
