@@ -8,17 +8,16 @@
 // on Xvfb with the X server's CPU added when Xvfb is installed) and --headless without the server; with the server idle, with 8 idle clients connected, and with one client
 // asking 1000 queries a second; and the time from a query's first byte out to its answer's last
 // byte in, for one client asking one query after the other.
+#include "bench_support.h"
 #include "sim_bus.h"
 #include "sim_pty.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -46,26 +45,6 @@ double process_cpu_ms(qint64 pid) {
     return total;
 }
 
-void run_for(int ms, const std::function<bool()> &done = {}) {
-    QEventLoop loop;
-    QTimer end;
-    end.setSingleShot(true);
-    QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
-    QTimer check;
-    if (done) {
-        QObject::connect(&check, &QTimer::timeout, &loop, [&] {
-            if (done()) {
-                loop.quit();
-            }
-        });
-        check.start(5);
-    }
-    end.start(ms);
-    if (!done || !done()) {
-        loop.exec();
-    }
-}
-
 // The program against `devices` simulated CW drivers, in a scratch directory with its own HOME.
 class program_run {
 public:
@@ -80,20 +59,7 @@ public:
         }
         QObject::connect(&clock_, &QTimer::timeout, [this] { bus_.advance(10); });
         clock_.start(10);
-        QDir(dir_.path()).mkpath(QStringLiteral("configs"));
-        {
-            QSettings ini(dir_.filePath(QStringLiteral("configs/config.ini")),
-                          QSettings::IniFormat);
-            ini.setValue("prev_port", line_->slave_path());
-            ini.setValue("mini_usb_mode", false);
-            ini.setValue("autoconnection_mode", true);
-            ini.setValue("device_count", devices);
-            for (int i = 0; i < devices; ++i) {
-                ini.setValue(QStringLiteral("device_%1").arg(i), i + 1);
-                ini.setValue(QStringLiteral("name_device_%1").arg(i),
-                             QStringLiteral("Laser %1").arg(i + 1));
-            }
-        }
+        write_device_table(dir_.path(), line_->slave_path(), devices);
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         if (display.isEmpty()) {
             env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
