@@ -18,6 +18,10 @@ int main(int argc, char *argv[]) {
         return code;
     }
     device_service::prefer_offscreen(argc, argv);
+    if (headless_requested(argc, argv)) {
+        // Nothing is drawn without a window: Qt's offscreen platform needs no display.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     QApplication app(argc, argv);
     QTranslator translator;
     prepare_program(app, translator);
@@ -50,6 +54,17 @@ int main(int argc, char *argv[]) {
     publisher pub;
     if (!options.mqtt_url.isEmpty()) {
         publish_window(window, pub, options, *settings);
+    }
+    std::unique_ptr<remote_service> remote;
+    if (!options.listen.isEmpty()) {
+        remote = serve_window(window, options, *settings);
+    }
+    if (options.headless) {
+        const int code = app.exec();
+        // A signal closes the windows on show; this one never was, so it is closed here, which
+        // saves the configuration as closing the window does.
+        window.close();
+        return code;
     }
     window.show();
     if (options.trends) {

@@ -517,6 +517,7 @@ void main_window::sl_change_ui_widget(device *dev, int slot) {
     containers_.at(slot)->layout()->addWidget(panel);
     connect(dev, &device::sig_refresh_state, panel, &device_panel::sl_refresh_state);
     observations_->watch(dev->can_id(), dev->name(), panel);
+    emit sig_panel_placed(dev);
 }
 
 trend_window *main_window::open_trends() {

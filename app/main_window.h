@@ -90,6 +90,8 @@ signals:
     // A device answered with its type (`model` from the registry, empty for an unknown type), or
     // fell silent and was forgotten (`type_id` -1).
     void sig_device_type(int can_id, const QString &name, int type_id, const QString &model);
+    // A panel was placed for `dev` (its type was learnt, or learnt again after a loss).
+    void sig_panel_placed(device *dev);
 
 public slots:
     void on_main_menu_butt_clicked();

@@ -3,10 +3,14 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 class QApplication;
 class QObject;
 class QSettings;
 class QTranslator;
+class bus_instrument;
+class command_server;
 class main_window;
 class recorder;
 
@@ -39,15 +43,22 @@ struct program_options {
     bool monitor = false;  // open the bus monitor with the main window
     QString mqtt_url;     // the broker this run publishes to (as given); empty: none
     QString station;      // the station's name in the broker's topics; empty: the host name
+    QString listen;       // where the command server listens, "[ADDR:]PORT"; empty: no server
+    bool remote_writes = false;  // remote clients may change set-points, emission, parameters
+    bool headless = false;       // no window and no display: devices, recording, server
 };
 
 // Answers --help and --version before the window system is opened (they need no display): the
 // exit code, or -1 when neither is asked for.
 int answer_help(int argc, char *argv[]);
+// Whether the command line asks for --headless; read before the application object exists, which
+// then has to be built on the offscreen platform.
+bool headless_requested(int argc, char *argv[]);
 // Reads the command line (`arguments` as QCoreApplication::arguments() gives them). `remembered`
 // keeps the recording directory between runs: "--record DIR" sets it, "--record off" clears it;
 // so are the broker ("--mqtt URL", "--mqtt off"; a URL that cannot be read is used for this run
 // only, which reports it) and the station name ("--station NAME", "--station ''" for the host name).
+// "--listen [ADDR:]PORT" and "--remote-control" are remembered the same way until "off".
 // Returns -1 when the program should run, else the exit code after printing the help text, the
 // version or what is wrong with the arguments.
 int take_command_line(const QStringList &arguments, QSettings &remembered,
@@ -60,3 +71,17 @@ QSettings *open_program_settings();
 // disk fills up, recording stops and the window says why in its status bar and in a box that
 // does not wait for an answer: polling goes on.
 void record_window(main_window &window, recorder &rec, const QString &dir);
+
+// The command server for the window's devices and the instrument it serves them through.
+struct remote_service {
+    ~remote_service();
+    std::unique_ptr<bus_instrument> instrument;
+    std::unique_ptr<command_server> server;  // deleted first: it closes every connection
+};
+// Starts the command server at options.listen, writes allowed as options.remote_writes says, and
+// says on standard error where it listens (and plainly when that is not this computer alone).
+// With the window shown, its status bar shows the clients and the switch for remote writes,
+// which `remembered` keeps. Null when the address cannot be bound (said on standard error): the
+// program runs on without the server.
+std::unique_ptr<remote_service> serve_window(main_window &window, const program_options &options,
+                                             QSettings &remembered);

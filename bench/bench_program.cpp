@@ -11,6 +11,7 @@
 // (14, 15, 34, 38), the ones that had panels when the benchmark was written; a program build from
 // before another type had its panel only asks such a device for its type, so compare builds with
 // types both have panels for.
+#include "bench_support.h"
 #include "sim_bus.h"
 #include "sim_pty.h"
 
@@ -134,27 +135,6 @@ QList<thread_group> group_threads(qint64 pid, const QMap<QString, thread_sample>
     return groups;
 }
 
-// Runs the event loop for `ms` milliseconds, or until `done` holds (checked every 20 ms).
-void run_for(int ms, const std::function<bool()> &done = {}) {
-    QEventLoop loop;
-    QTimer end;
-    end.setSingleShot(true);
-    QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
-    QTimer check;
-    if (done) {
-        QObject::connect(&check, &QTimer::timeout, &loop, [&] {
-            if (done()) {
-                loop.quit();
-            }
-        });
-        check.start(20);
-    }
-    end.start(ms);
-    if (!done || !done()) {
-        loop.exec();
-    }
-}
-
 int answers_so_far(const sim_bus &bus) {
     int answers = 0;
     for (const auto &d : bus.devices()) {
@@ -192,19 +172,7 @@ case_result measure(const QString &program, int count, const QList<int> &types, 
     clock.start(10);
 
     QTemporaryDir dir;
-    QDir(dir.path()).mkpath(QStringLiteral("configs"));
-    {
-        QSettings ini(dir.filePath(QStringLiteral("configs/config.ini")), QSettings::IniFormat);
-        ini.setValue("prev_port", line.slave_path());
-        ini.setValue("mini_usb_mode", false);
-        ini.setValue("autoconnection_mode", true);
-        ini.setValue("device_count", count);
-        for (int i = 0; i < count; ++i) {
-            ini.setValue(QStringLiteral("device_%1").arg(i), i + 1);
-            ini.setValue(QStringLiteral("name_device_%1").arg(i),
-                         QStringLiteral("Laser %1").arg(i + 1));
-        }
-    }
+    write_device_table(dir.path(), line.slave_path(), count);
 
     QProcess lumivox;
     lumivox.setWorkingDirectory(dir.path());

@@ -53,7 +53,7 @@ config_dialog::config_dialog(const QString &display_name, const parameter_list &
         auto *value = new QLabel(value_text(record), group);
         value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         auto *spin = new QDoubleSpinBox(group);
-        spin->setMaximum(4294967295.0);
+        spin->setMaximum(maximum_value);
         spin->setDecimals(record.decimals);
         spin->setSingleStep(record.step);
         // A row not yet reported starts at the minimum, whatever mark the panel keeps for it.

@@ -16,6 +16,9 @@ class QPushButton;
 class config_dialog : public QDialog {
     Q_OBJECT
 public:
+    // The largest value a row's spin box takes (its least is 0): the largest 32-bit word.
+    static constexpr double maximum_value = 4294967295.0;
+
     // `unknown_mark`: the value a parameter holds until reported; such a row shows `unknown_text`
     // and its spin box its minimum. `hint`: an extra note under the CAN id warning (may be empty).
     config_dialog(const QString &display_name, const parameter_list &parameters,

@@ -550,6 +550,36 @@ bool panel_base::request_emission(bool on) {
     return true;
 }
 
+bool panel_base::parameters_writable() const {
+    return dialog_available_ && all_parameters_known() && configuration_allowed();
+}
+
+panel_base::setpoint_result panel_base::write_parameter(int code, double value) {
+    const auto record = std::find_if(parameters_.cbegin(), parameters_.cend(),
+                                     [code](const parameter_record &r) { return r.code == code; });
+    if (record == parameters_.cend()) {
+        return setpoint_result::unknown_key;
+    }
+    if (!parameters_writable()) {
+        return setpoint_result::not_allowed;
+    }
+    // The dialog's spin box: the row's decimals, from 0 to the largest unsigned 32-bit word.
+    const double shown = QString::number(value, 'f', record->decimals).toDouble();
+    if (!std::isfinite(value) || shown < 0 || shown > config_dialog::maximum_value) {
+        return setpoint_result::out_of_range;
+    }
+    write_parameter_wire(code, scaling::to_wire(shown, scaling::pow10(record->decimals)));
+    return setpoint_result::queued;
+}
+
+bool panel_base::store_parameters() {
+    if (!parameters_writable()) {
+        return false;
+    }
+    queue_store_commands();
+    return true;
+}
+
 bool panel_base::eventFilter(QObject *watched, QEvent *event) {
     auto *widget = qobject_cast<QWidget *>(watched);
     if (event->type() == QEvent::Wheel && watched_.contains(widget)) {
@@ -613,12 +643,12 @@ void panel_base::on_pref_changed(double value) {
     }
 }
 
-void panel_base::write_parameter(int code, qint64 wire) {
+void panel_base::write_parameter_wire(int code, qint64 wire) {
     queue_command(code, static_cast<long>(wire));
     queue_read(code);
 }
 
-void panel_base::store_parameters() {
+void panel_base::queue_store_commands() {
     for (const panel_command &command : qAsConst(store_commands_)) {
         queue_.append(command);
     }
@@ -638,9 +668,7 @@ void panel_base::close_prefs_dialog() {
     for (int i = 0; i < rows; ++i) {
         queue_read(parameters_[i].code);
     }
-    for (const panel_command &command : qAsConst(store_commands_)) {
-        queue_.append(command);
-    }
+    queue_store_commands();
 }
 
 // --- Set-up -----------------------------------------------------------------------------------

@@ -122,6 +122,17 @@ public:
     bool has_emission() const { return !emission_write_codes_.isEmpty(); }
     bool request_emission(bool on);
 
+    // --- Configuration parameters for callers without widgets (scripts) ------------------------
+    // Writes the parameter with `code` as the configuration dialog does, then reads it back: the
+    // dialog's decimals and range apply, then the same scale and truncation. `not_allowed` while
+    // the operator could not open the dialog (the panel has none, a row is not yet reported, or
+    // emission or the TEC is on); `unknown_key` for a code that is not a row of the panel.
+    setpoint_result write_parameter(int code, double value);
+    // Whether write_parameter() and store_parameters() may send now.
+    bool parameters_writable() const;
+    // Queues the store commands that the dialog's "Write" ends with; false when not allowed.
+    bool store_parameters();
+
     // The note shown in the configuration dialog unless the panel gives its own: how to reach a
     // device for changing its CAN id.
     static QString usb_can_id_hint();
@@ -129,14 +140,15 @@ public:
     // as the devices name them).
     static QStringList driver_alarm_texts();
 
-    // --- Configuration rows as a service (backup and restore of the device's memory) -----------
-    // Each goes through the command queue as the dialog's own changes do. Writes (code, wire),
+    // --- Configuration rows as the device's integers (backup and restore of its memory) --------
+    // Each goes through the command queue as the dialog's own changes do, without the checks of
+    // write_parameter() and store_parameters(): the caller has made its own. Writes (code, wire),
     // then asks for the row back with (code + 128, 0), as a live change of a dialog row does.
-    void write_parameter(int code, qint64 wire);
+    void write_parameter_wire(int code, qint64 wire);
     // Asks for the row again: (code + 128, 0).
     void read_parameter(int code) { queue_read(code); }
     // Queues the store command(s) that the dialog's "Write" ends with.
-    void store_parameters();
+    void queue_store_commands();
 
 signals:
     // After every report the panel takes and every set-point it sends (see panel_observation).

@@ -85,7 +85,7 @@ void settings_restore::start() {
     connect(reading_, &row_read_back::sig_complete, this, &settings_restore::all_read_back);
     QSet<int> writing;
     for (const compared_row &row : qAsConst(write_)) {
-        panel_->write_parameter(row.code, *row.file_wire);
+        panel_->write_parameter_wire(row.code, *row.file_wire);
         reading_->expect(row.code);
         writing.insert(row.code);
     }
@@ -109,7 +109,7 @@ void settings_restore::all_read_back() {
     // The store commands leave the queue before the read behind them; its answer shows that they
     // went out.
     stage_ = stage::storing;
-    panel_->store_parameters();
+    panel_->queue_store_commands();
     fence_ = new row_read_back(panel_, this);
     connect(fence_, &row_read_back::sig_complete, this, [this] {
         result_.stored = true;
