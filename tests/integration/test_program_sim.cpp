@@ -226,8 +226,9 @@ private slots:
         QVERIFY2(sim_pty::point_link(port, replugged->slave_path(), &error), qPrintable(error));
         line = replugged;
         QTRY_COMPARE_WITH_TIMEOUT(status(), QStringLiteral("Connection status: CONNECTED"), 5000);
-        QVERIFY(line->adapter().channel_open());
-        QCOMPARE(line->adapter().bit_rate_code(), 6);
+        // The start commands follow the port's opening: wait for them, not only for the status.
+        QTRY_VERIFY_WITH_TIMEOUT(line->adapter().channel_open(), 5000);
+        QTRY_COMPARE_WITH_TIMEOUT(line->adapter().bit_rate_code(), 6, 5000);
         QList<int> requests;
         for (const auto &simulated : bus.devices()) {
             requests << simulated->requests();
