@@ -11,8 +11,7 @@
 #include "observation_hub.h"
 #include "panel_registry.h"
 #include "panels.h"
-#include "sim_bus.h"
-#include "sim_pty.h"
+#include "sim_session.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -41,16 +40,8 @@ const char *const heater_name = "Crystal oven";
 
 // A working directory whose configuration reaches `port` with the two devices.
 void write_config(const QString &dir, const QString &port) {
-    QDir(dir).mkpath(QStringLiteral("configs"));
-    QSettings ini(dir + QStringLiteral("/configs/config.ini"), QSettings::IniFormat);
-    ini.setValue("prev_port", port);
-    ini.setValue("mini_usb_mode", false);
-    ini.setValue("autoconnection_mode", true);
-    ini.setValue("device_count", 2);
-    ini.setValue("device_0", cw_id);
-    ini.setValue("name_device_0", QString::fromLatin1(cw_name));
-    ini.setValue("device_1", heater_id);
-    ini.setValue("name_device_1", QString::fromLatin1(heater_name));
+    write_device_table(dir, port, {cw_id, heater_id}, true,
+                       {QString::fromLatin1(cw_name), QString::fromLatin1(heater_name)});
 }
 
 // The last value of every reading the window's panels report, by device and quantity.
@@ -109,10 +100,8 @@ private slots:
         QVERIFY(bus.add_device(cw_id, 14));
         QVERIFY(bus.add_device(heater_id, 4));
         QVERIFY(bus.schedule_garbage(heater_id, 1500, 200));
-        line = new sim_pty(bus, this);
-        QVERIFY(line->open());
-        connect(&clock, &QTimer::timeout, this, [this] { bus.advance(10); });
-        clock.start(10);
+        line = start_sim_line(bus, clock, this);
+        QVERIFY(line);
         write_config(scratch.path(), line->slave_path());
 
         set_message_answerer([](const message_request &) { return QMessageBox::Yes; });
