@@ -19,6 +19,7 @@
 #include "bench_panels.h"
 #include "publisher.h"
 #include "broker_message.h"
+#include "free_port.h"
 #include "sim_bus.h"
 #include "sim_device.h"
 #include "sim_pty.h"
@@ -46,21 +47,6 @@
 #include <unistd.h>
 
 namespace {
-
-int free_port() {
-    const int s = ::socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    int port = 0;
-    if (::bind(s, reinterpret_cast<sockaddr *>(&address), size) == 0 &&
-        ::getsockname(s, reinterpret_cast<sockaddr *>(&address), &size) == 0) {
-        port = ntohs(address.sin_port);
-    }
-    ::close(s);
-    return port;
-}
 
 // True once something accepts connections on the loopback `port`.
 bool listening(int port) {

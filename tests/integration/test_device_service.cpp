@@ -2,8 +2,7 @@
 // simulated devices over a pseudo-terminal: their exit codes with every device present and with
 // one missing, and what they leave on the devices and on disk.
 #include "device_settings.h"
-#include "sim_bus.h"
-#include "sim_pty.h"
+#include "sim_session.h"
 
 #include <QDir>
 #include <QProcess>
@@ -33,16 +32,12 @@ class test_device_service : public QObject {
     QByteArray err;
 
     void configure(const QList<int> &ids) {
-        QDir(dir.path()).mkpath(QStringLiteral("configs"));
-        QSettings ini(dir.filePath(QStringLiteral("configs/config.ini")), QSettings::IniFormat);
-        ini.clear();
-        ini.setValue("prev_port", line->slave_path());
-        ini.setValue("autoconnection_mode", false);  // the run connects all the same
-        ini.setValue("device_count", ids.size());
+        QStringList names;
         for (int n = 0; n < ids.size(); ++n) {
-            ini.setValue(QStringLiteral("device_%1").arg(n), ids[n]);
-            ini.setValue(QStringLiteral("name_device_%1").arg(n), QStringLiteral("Line %1").arg(n));
+            names << QStringLiteral("Line %1").arg(n);
         }
+        // Without automatic connection: the run connects all the same.
+        write_device_table(dir.path(), line->slave_path(), ids, false, names);
     }
 
     // Runs the program in the test's directory (its own HOME, no display, no platform chosen)
@@ -75,10 +70,8 @@ private slots:
         QVERIFY(dir.isValid());
         QVERIFY(bus.add_device(cw_id, 14));
         QVERIFY(bus.add_device(box_id, 26));
-        line = new sim_pty(bus, this);
-        QVERIFY(line->open());
-        connect(&clock, &QTimer::timeout, this, [this] { bus.advance(10); });
-        clock.start(10);
+        line = start_sim_line(bus, clock, this);
+        QVERIFY(line);
 
         configure({cw_id});
         QCOMPARE(run({"--backup", "first"}), 0);

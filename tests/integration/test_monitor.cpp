@@ -5,14 +5,9 @@
 // panels had.
 #include "candump_log.h"
 #include "device.h"
-#include "main_window.h"
-#include "message_route.h"
 #include "monitor_window.h"
 #include "observation_hub.h"
-#include "panel_registry.h"
-#include "panels.h"
-#include "sim_bus.h"
-#include "sim_pty.h"
+#include "sim_window.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -41,16 +36,8 @@ const char *const heater_name = "Crystal oven";
 
 // A working directory whose configuration reaches `port` with the two devices.
 void write_config(const QString &dir, const QString &port) {
-    QDir(dir).mkpath(QStringLiteral("configs"));
-    QSettings ini(dir + QStringLiteral("/configs/config.ini"), QSettings::IniFormat);
-    ini.setValue("prev_port", port);
-    ini.setValue("mini_usb_mode", false);
-    ini.setValue("autoconnection_mode", true);
-    ini.setValue("device_count", 2);
-    ini.setValue("device_0", cw_id);
-    ini.setValue("name_device_0", QString::fromLatin1(cw_name));
-    ini.setValue("device_1", heater_id);
-    ini.setValue("name_device_1", QString::fromLatin1(heater_name));
+    write_device_table(dir, port, {cw_id, heater_id}, true,
+                       {QString::fromLatin1(cw_name), QString::fromLatin1(heater_name)});
 }
 
 // The last value of every reading the window's panels report, by device and quantity.
@@ -67,16 +54,9 @@ void collect_readings(main_window *window, readings *into) {
 
 }  // namespace
 
-class test_monitor : public QObject {
+class test_monitor : public QObject, sim_window_fixture {
     Q_OBJECT
 
-    QTemporaryDir scratch;
-    QString previous_dir;
-    panel_registry registry;
-    sim_bus bus;
-    sim_pty *line = nullptr;
-    QTimer clock;
-    main_window *window = nullptr;
     monitor_window *monitor = nullptr;
     readings seen;
 
@@ -93,27 +73,22 @@ class test_monitor : public QObject {
         }
         return -1;
     }
-    int last_frame(int address, direction dir, int code) const {
+    int last_frame(int address, direction way, int code) const {
         return last_row([=](const bus_line &l) {
-            return l.address() == address && l.dir == dir && l.code() == code;
+            return l.address() == address && l.dir == way && l.code() == code;
         });
     }
     QString cell(int row, int column) const { return model()->cell_text(row, column); }
 
 private slots:
     void initTestCase() {
-        QVERIFY(scratch.isValid());
-        previous_dir = QDir::currentPath();
-        QDir::setCurrent(scratch.path());
-        register_panels(registry);
+        QVERIFY(enter_scratch_dir());
         QVERIFY(bus.add_device(cw_id, 14));
         QVERIFY(bus.add_device(heater_id, 4));
         QVERIFY(bus.schedule_garbage(heater_id, 1500, 200));
-        line = new sim_pty(bus, this);
-        QVERIFY(line->open());
-        connect(&clock, &QTimer::timeout, this, [this] { bus.advance(10); });
-        clock.start(10);
-        write_config(scratch.path(), line->slave_path());
+        line = start_sim_line(bus, clock, this);
+        QVERIFY(line);
+        write_config(dir.path(), line->slave_path());
 
         set_message_answerer([](const message_request &) { return QMessageBox::Yes; });
         window = new main_window(QStringLiteral("Veltrano"), &registry);
@@ -128,11 +103,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(configure->isEnabled(), 15000);
     }
 
-    void cleanupTestCase() {
-        delete window;
-        set_message_answerer({});
-        QDir::setCurrent(previous_dir);
-    }
+    void cleanupTestCase() { leave_scratch_dir(); }
 
     // Each row: the last frame of a device, direction and code is named as the panel describes
     // it, and its value reads as the panel's own label shows it.
@@ -214,7 +185,7 @@ private slots:
     void filters_data() {
         QTest::addColumn<int>("address");
         QTest::addColumn<QString>("codes");
-        QTest::addColumn<int>("dir");
+        QTest::addColumn<int>("way");
         QTest::newRow("one device") << heater_id << "" << -1;
         QTest::newRow("a write code and its reads") << -1 << "11" << -1;
         QTest::newRow("sent only") << -1 << "" << int(direction::sent);
@@ -224,7 +195,7 @@ private slots:
     void filters() {
         QFETCH(int, address);
         QFETCH(QString, codes);
-        QFETCH(int, dir);
+        QFETCH(int, way);
         monitor->set_paused(true);  // the same lines for every filter
         monitor->set_device_filter(address);
         QVERIFY(monitor->set_code_filter(codes));
@@ -239,7 +210,7 @@ private slots:
             monitor->set_direction_filter(d);
             each_way += model()->rowCount();
         }
-        monitor->set_direction_filter(dir);
+        monitor->set_direction_filter(way);
         QVERIFY(model()->rowCount() > 0);
         for (int row = 0; row < model()->rowCount(); ++row) {
             const bus_line &l = model()->line_at(row);
@@ -252,13 +223,13 @@ private slots:
             if (!wanted_codes.isEmpty()) {
                 QVERIFY(wanted_codes.contains(l.code()) || wanted_codes.contains(l.code() - 0x80));
             }
-            if (dir >= 0) {
-                QCOMPARE(int(l.dir), dir);
+            if (way >= 0) {
+                QCOMPARE(int(l.dir), way);
             }
         }
         // A write code given shows its reads too.
         for (const int code : qAsConst(wanted_codes)) {
-            if (code < 0x80 && dir < 0) {
+            if (code < 0x80 && way < 0) {
                 QVERIFY(last_row([code](const bus_line &l) { return l.code() == code + 0x80; }) >= 0);
             }
         }
@@ -320,7 +291,7 @@ private slots:
     void log_lines_data() {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<int>("frames");
-        QTest::addColumn<int>("dir");  // of the frame read, when one is
+        QTest::addColumn<int>("way");  // of the frame read, when one is
         QTest::newRow("the program's request") << QByteArray("(1690000000.123456) slcan0 0FA#D022000000000000") << 1 << int(direction::sent);
         QTest::newRow("an answer") << QByteArray("(1690000000.5) can1  001#9201000000001234") << 1 << int(direction::received);
         QTest::newRow("direction given") << QByteArray("(1690000000.123456) slcan0 022#9222000000000001 R") << 1 << int(direction::received);
@@ -337,7 +308,7 @@ private slots:
     void log_lines() {
         QFETCH(QByteArray, text);
         QFETCH(int, frames);
-        QFETCH(int, dir);
+        QFETCH(int, way);
         candump_log::reader reader(4);
         reader.take_all(QByteArray("(1.000001) slcan0 001#00\n") + text + "\n\n");
         QCOMPARE(reader.frames_read(), qint64(1 + frames));
@@ -345,7 +316,7 @@ private slots:
         QCOMPARE(reader.skipped(), qint64(frames == 0 && !comment ? 1 : 0));
         QCOMPARE(reader.first_skipped_line(), qint64(reader.skipped() > 0 ? 2 : 0));
         if (frames > 0) {
-            QCOMPARE(int(reader.frames().back().dir), dir);
+            QCOMPARE(int(reader.frames().back().dir), way);
             QCOMPARE(QByteArray(candump_log::format(reader.frames().back())).chopped(3),
                      text.left(text.indexOf(" R") > 0 ? text.indexOf(" R") : text.size())
                          .replace("(1690000000.5)", "(1690000000.500000)")
@@ -359,7 +330,7 @@ private slots:
         const QString log2asc = QStandardPaths::findExecutable(QStringLiteral("log2asc"));
         QVERIFY2(!log2asc.isEmpty(), "log2asc not found: scripts/bootstrap installs can-utils");
         model()->publish();
-        const QString path = scratch.filePath(QStringLiteral("session.log"));
+        const QString path = dir.filePath(QStringLiteral("session.log"));
         QVERIFY(monitor->export_log(path));
         int sent = 0;
         int received = 0;
@@ -387,7 +358,7 @@ private slots:
         for (int row = 0; row < frames.size(); ++row) {
             QCOMPARE(file.model()->line_at(row), frames.at(row));
         }
-        const QString again = scratch.filePath(QStringLiteral("again.log"));
+        const QString again = dir.filePath(QStringLiteral("again.log"));
         QVERIFY(file.export_log(again));
         QFile a(path);
         QFile b(again);
@@ -426,7 +397,7 @@ private slots:
                                   5000);
         const readings expected = seen;
         QVERIFY(expected.size() >= 4);
-        const QString log = scratch.filePath(QStringLiteral("replayed.log"));
+        const QString log = dir.filePath(QStringLiteral("replayed.log"));
         model()->publish();
         QVERIFY(monitor->export_log(log));
         delete window;
@@ -448,7 +419,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(replayed, expected, 20000);
         delete window;
         window = nullptr;
-        QDir::setCurrent(scratch.path());
+        QDir::setCurrent(dir.path());
         sim.terminate();
         QVERIFY(sim.waitForFinished(5000));
     }

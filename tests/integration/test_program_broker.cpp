@@ -1,9 +1,9 @@
 // The `lumivox` program publishing to a real Mosquitto broker that the test starts on a free
 // loopback port with its own configuration, while the program polls simulated devices over a
 // pseudo-terminal. A mosquitto_sub process is the subscriber.
-#include "sim_bus.h"
+#include "free_port.h"
 #include "sim_device.h"
-#include "sim_pty.h"
+#include "sim_session.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -19,32 +19,11 @@
 #include <csignal>
 #include <memory>
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 namespace {
 
 constexpr int device_id = 7;
 constexpr int device_type = 14;
 constexpr int wait_ms = 15000;
-
-// A loopback port nobody listens on now.
-int free_port() {
-    const int s = ::socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    int port = 0;
-    if (::bind(s, reinterpret_cast<sockaddr *>(&address), size) == 0 &&
-        ::getsockname(s, reinterpret_cast<sockaddr *>(&address), &size) == 0) {
-        port = ntohs(address.sin_port);
-    }
-    ::close(s);
-    return port;
-}
 
 bool run(const QString &program, const QStringList &arguments) {
     QProcess p;
@@ -165,18 +144,10 @@ private slots:
     void initTestCase() {
         QVERIFY(dir.isValid());
         QVERIFY(bus.add_device(device_id, device_type));
-        line = new sim_pty(bus, this);
-        QVERIFY(line->open());
-        connect(&clock, &QTimer::timeout, this, [this] { bus.advance(10); });
-        clock.start(10);
-        QDir(dir.path()).mkpath("configs");
-        QSettings ini(path("configs/config.ini"), QSettings::IniFormat);
-        ini.setValue("prev_port", line->slave_path());
-        ini.setValue("mini_usb_mode", false);
-        ini.setValue("autoconnection_mode", true);
-        ini.setValue("device_count", 1);
-        ini.setValue("device_0", device_id);
-        ini.setValue("name_device_0", "Bench \"A\"");
+        line = start_sim_line(bus, clock, this);
+        QVERIFY(line);
+        write_device_table(dir.path(), line->slave_path(), {device_id}, true,
+                           {QStringLiteral("Bench \"A\"")});
     }
 
     void init() {

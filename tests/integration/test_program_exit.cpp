@@ -4,8 +4,7 @@
 // automatic connection retrying a missing adapter. The program runs with a home of its own.
 #include "device_profiles.h"
 #include "record_format.h"
-#include "sim_bus.h"
-#include "sim_pty.h"
+#include "sim_session.h"
 
 #include <QDir>
 #include <QProcess>
@@ -52,18 +51,7 @@ private slots:
         clock.start(10);
 
         const QString port = adapter_present ? line.slave_path() : dir.filePath("no-adapter");
-        dir.mkpath("configs");
-        {
-            QSettings ini(dir.filePath("configs/config.ini"), QSettings::IniFormat);
-            ini.setValue("prev_port", port);
-            ini.setValue("mini_usb_mode", false);
-            ini.setValue("autoconnection_mode", true);
-            ini.setValue("device_count", 2);
-            ini.setValue("device_0", 7);
-            ini.setValue("name_device_0", "Bench A");
-            ini.setValue("device_1", 9);
-            ini.setValue("name_device_1", "Bench B");
-        }
+        write_device_table(dir.path(), port, {7, 9}, true, {"Bench A", "Bench B"});
 
         QProcess program;
         program.setWorkingDirectory(top.filePath("start"));

@@ -2,13 +2,8 @@
 // file, serial link, devices and panels, talking to simulated devices over a pseudo-terminal.
 #include "cross_thread.h"
 #include "device.h"
-#include "main_window.h"
-#include "message_route.h"
-#include "panel_registry.h"
-#include "panels.h"
 #include "serial_connector.h"
-#include "sim_bus.h"
-#include "sim_pty.h"
+#include "sim_window.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -29,17 +24,10 @@ constexpr int heater_id = 4;      // type 4, the heater accessory
 
 }  // namespace
 
-class test_program_sim : public QObject {
+class test_program_sim : public QObject, sim_window_fixture {
     Q_OBJECT
 
-    QTemporaryDir dir;
-    QString previous_dir;
-    panel_registry registry;
-    sim_bus bus;
-    sim_pty *line = nullptr;
     QString port;  // a link to the line, as a udev rule names an adapter
-    QTimer clock;
-    main_window *window = nullptr;
     QList<QString> boxes;
 
     device_panel *panel_of(int slot) const {
@@ -59,38 +47,20 @@ class test_program_sim : public QObject {
 
 private slots:
     void initTestCase() {
-        QVERIFY(dir.isValid());
-        previous_dir = QDir::currentPath();
-        QDir::setCurrent(dir.path());
-        register_panels(registry);
-
+        QVERIFY(enter_scratch_dir());
         QVERIFY(bus.add_device(cw_id, 14));
         QVERIFY(bus.add_device(precision_id, 15));
         QVERIFY(bus.add_device(picosecond_id, 20));
         QVERIFY(bus.add_device(heater_id, 4));
-        line = new sim_pty(bus, this);
-        QVERIFY(line->open());
+        // The simulated devices move in real time, as hardware does.
+        line = start_sim_line(bus, clock, this);
+        QVERIFY(line);
         port = dir.filePath(QStringLiteral("adapter"));
         QString error;
         QVERIFY2(sim_pty::point_link(port, line->slave_path(), &error), qPrintable(error));
-        // The simulated devices move in real time, as hardware does.
-        connect(&clock, &QTimer::timeout, this, [this] { bus.advance(10); });
-        clock.start(10);
 
         // A configuration as the operator would have saved it: automatic connection to the line.
-        QDir().mkpath(QStringLiteral("configs"));
-        QSettings ini(QStringLiteral("configs/config.ini"), QSettings::IniFormat);
-        ini.setValue("prev_port", port);
-        ini.setValue("mini_usb_mode", false);
-        ini.setValue("autoconnection_mode", true);
-        const int ids[] = {cw_id, precision_id, picosecond_id, heater_id};
-        ini.setValue("device_count", 4);
-        for (int n = 0; n < 4; ++n) {
-            ini.setValue(QStringLiteral("device_%1").arg(n), ids[n]);
-            ini.setValue(QStringLiteral("name_device_%1").arg(n),
-                         QStringLiteral("Bench %1").arg(n));
-        }
-        ini.sync();
+        write_device_table(dir.path(), port, {cw_id, precision_id, picosecond_id, heater_id});
 
         set_message_answerer([this](const message_request &request) {
             boxes << request.title + QLatin1Char('|') + request.text;
@@ -101,11 +71,7 @@ private slots:
         window->show();
     }
 
-    void cleanupTestCase() {
-        delete window;  // stops every thread; the test would abort if one were left running
-        set_message_answerer({});
-        QDir::setCurrent(previous_dir);
-    }
+    void cleanupTestCase() { leave_scratch_dir(); }
 
     void devices_are_found_and_panels_built() {
         QTRY_VERIFY_WITH_TIMEOUT(panel_of(0) && panel_of(1) && panel_of(2) && panel_of(3), 10000);

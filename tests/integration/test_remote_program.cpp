@@ -3,15 +3,10 @@
 // clients on plain sockets at 127.0.0.1 on a free port.
 #include "command_server.h"
 #include "device.h"
-#include "main_window.h"
-#include "message_route.h"
 #include "panel_base.h"
-#include "panel_registry.h"
-#include "panels.h"
 #include "program.h"
 #include "remote_status.h"
-#include "sim_bus.h"
-#include "sim_pty.h"
+#include "sim_window.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -34,16 +29,9 @@ constexpr int absent_id = 9;      // configured, never on the bus
 
 }  // namespace
 
-class test_remote_program : public QObject {
+class test_remote_program : public QObject, sim_window_fixture {
     Q_OBJECT
 
-    QTemporaryDir dir;
-    QString previous_dir;
-    panel_registry registry;
-    sim_bus bus;
-    sim_pty *line = nullptr;
-    QTimer clock;
-    main_window *window = nullptr;
     std::unique_ptr<QSettings> remembered;
     std::unique_ptr<remote_service> service;
 
@@ -75,30 +63,14 @@ class test_remote_program : public QObject {
 
 private slots:
     void initTestCase() {
-        QVERIFY(dir.isValid());
-        previous_dir = QDir::currentPath();
-        QDir::setCurrent(dir.path());
-        register_panels(registry);
+        QVERIFY(enter_scratch_dir());
         QVERIFY(bus.add_device(cw_id, 14));
         QVERIFY(bus.add_device(picosecond_id, 20));
         QVERIFY(bus.add_device(heater_id, 4));
-        line = new sim_pty(bus, this);
-        QVERIFY(line->open());
-        connect(&clock, &QTimer::timeout, this, [this] { bus.advance(10); });
-        clock.start(10);
-
-        QDir().mkpath(QStringLiteral("configs"));
-        QSettings ini(QStringLiteral("configs/config.ini"), QSettings::IniFormat);
-        ini.setValue("prev_port", line->slave_path());
-        ini.setValue("mini_usb_mode", false);
-        ini.setValue("autoconnection_mode", true);
-        const int ids[] = {cw_id, picosecond_id, heater_id, absent_id};
-        ini.setValue("device_count", 4);
-        for (int n = 0; n < 4; ++n) {
-            ini.setValue(QStringLiteral("device_%1").arg(n), ids[n]);
-            ini.setValue(QStringLiteral("name_device_%1").arg(n), QStringLiteral("Bench %1").arg(n));
-        }
-        ini.sync();
+        line = start_sim_line(bus, clock, this);
+        QVERIFY(line);
+        write_device_table(dir.path(), line->slave_path(),
+                           {cw_id, picosecond_id, heater_id, absent_id});
         // A box nobody answers would stop the test: the server must never ask one.
         set_message_answerer([](const message_request &request) {
             qWarning("unexpected box: %s", qPrintable(request.text));
@@ -123,9 +95,7 @@ private slots:
 
     void cleanupTestCase() {
         service.reset();
-        delete window;
-        set_message_answerer({});
-        QDir::setCurrent(previous_dir);
+        leave_scratch_dir();
     }
 
     void lists_and_identifies() {

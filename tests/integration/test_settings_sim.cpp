@@ -4,15 +4,10 @@
 // stores them, and every refusal writes nothing.
 #include "config_dialog.h"
 #include "device.h"
-#include "main_window.h"
-#include "message_route.h"
 #include "panel_base.h"
-#include "panel_registry.h"
-#include "panels.h"
 #include "settings_actions.h"
 #include "settings_compare_dialog.h"
-#include "sim_bus.h"
-#include "sim_pty.h"
+#include "sim_window.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
@@ -36,16 +31,9 @@ const int types[] = {14, 26, 14};
 
 }  // namespace
 
-class test_settings_sim : public QObject {
+class test_settings_sim : public QObject, sim_window_fixture {
     Q_OBJECT
 
-    QTemporaryDir dir;
-    QString previous_dir;
-    panel_registry registry;
-    sim_bus bus;
-    sim_pty *line = nullptr;
-    QTimer clock;
-    main_window *window = nullptr;
     QList<message_request> boxes;
 
     panel_base *panel_of(int slot) const {
@@ -82,28 +70,13 @@ class test_settings_sim : public QObject {
 
 private slots:
     void initTestCase() {
-        QVERIFY(dir.isValid());
-        previous_dir = QDir::currentPath();
-        QDir::setCurrent(dir.path());
-        register_panels(registry);
+        QVERIFY(enter_scratch_dir());
         for (int i = 0; i < 3; ++i) {
             QVERIFY(bus.add_device(can_ids[i], types[i]));
         }
-        line = new sim_pty(bus, this);
-        QVERIFY(line->open());
-        connect(&clock, &QTimer::timeout, this, [this] { bus.advance(10); });
-        clock.start(10);
-
-        QDir().mkpath(QStringLiteral("configs"));
-        QSettings ini(QStringLiteral("configs/config.ini"), QSettings::IniFormat);
-        ini.setValue("prev_port", line->slave_path());
-        ini.setValue("autoconnection_mode", true);
-        ini.setValue("device_count", 3);
-        for (int n = 0; n < 3; ++n) {
-            ini.setValue(QStringLiteral("device_%1").arg(n), can_ids[n]);
-            ini.setValue(QStringLiteral("name_device_%1").arg(n), QStringLiteral("Bench %1").arg(n));
-        }
-        ini.sync();
+        line = start_sim_line(bus, clock, this);
+        QVERIFY(line);
+        write_device_table(dir.path(), line->slave_path(), {can_ids[0], can_ids[1], can_ids[2]});
 
         // Every box is answered Yes (questions) or OK, and kept for the test to read.
         set_message_answerer([this](const message_request &request) {
@@ -119,11 +92,7 @@ private slots:
         }
     }
 
-    void cleanupTestCase() {
-        delete window;
-        set_message_answerer({});
-        QDir::setCurrent(previous_dir);
-    }
+    void cleanupTestCase() { leave_scratch_dir(); }
 
     void init() { boxes.clear(); }
 
