@@ -13,10 +13,14 @@ namespace {
 
 instrument::outcome outcome_of(panel_base::setpoint_result result) {
     switch (result) {
-        case panel_base::setpoint_result::queued: return instrument::outcome::queued;
-        case panel_base::setpoint_result::unknown_key: return instrument::outcome::unknown_key;
-        case panel_base::setpoint_result::out_of_range: return instrument::outcome::out_of_range;
-        case panel_base::setpoint_result::not_allowed: return instrument::outcome::not_allowed;
+        case panel_base::setpoint_result::queued:
+            return instrument::outcome::queued;
+        case panel_base::setpoint_result::unknown_key:
+            return instrument::outcome::unknown_key;
+        case panel_base::setpoint_result::out_of_range:
+            return instrument::outcome::out_of_range;
+        case panel_base::setpoint_result::not_allowed:
+            return instrument::outcome::not_allowed;
     }
     return instrument::outcome::unknown_key;
 }
@@ -38,8 +42,7 @@ void bus_instrument::set_writes_allowed(bool allowed) {
 
 QString bus_instrument::identity() const {
     return QStringLiteral("Lumivox,%1,%2,v5.%3")
-        .arg(brand_, QSysInfo::machineHostName(),
-             QString::fromLatin1(build_info::commit).left(6));
+        .arg(brand_, QSysInfo::machineHostName(), QString::fromLatin1(build_info::commit).left(6));
 }
 
 bool bus_instrument::bus_connected() const {
@@ -111,7 +114,7 @@ std::optional<instrument::sample> bus_instrument::reading(int can_id, const QStr
 QVector<instrument::setpoint_info> bus_instrument::setpoints(int can_id) const {
     QVector<setpoint_info> list;
     if (const panel_base *p = panel(can_id)) {
-        for (const panel_base::setpoint_spec &s : p->setpoints()) {
+        for (const panel_base::setpoint_entry &s : p->setpoints()) {
             list.append({s.key, s.unit, s.minimum, s.maximum});
         }
     }
@@ -173,6 +176,7 @@ void bus_instrument::note_placed(::device *dev) {
 
 void bus_instrument::take(const device_sample &observed) {
     if (observed.kind == panel_observation::reading) {
-        last_.insert(qMakePair(observed.can_id, observed.key), stamped{observed.value, observed.ms});
+        last_.insert(qMakePair(observed.can_id, observed.key),
+                     stamped{observed.value, observed.ms});
     }
 }

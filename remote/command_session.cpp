@@ -115,14 +115,13 @@ const command_def commands[] = {
 };
 
 bool is_write(op what) {
-    return what == op::setpoint_write || what == op::output_write ||
-           what == op::parameter_write || what == op::parameter_store;
+    return what == op::setpoint_write || what == op::output_write || what == op::parameter_write ||
+           what == op::parameter_store;
 }
 
 // Whether `typed` from position `t` names the definition's nodes from `d` on; the CAN id of the
 // device node goes to `device_id`.
-bool match(const QVector<scpi::node> &typed, int t, const command_def &def, int d,
-           int *device_id) {
+bool match(const QVector<scpi::node> &typed, int t, const command_def &def, int d, int *device_id) {
     if (d == def.count) {
         return t == typed.size();
     }
@@ -237,8 +236,7 @@ command_session::result command_session::execute(const command_def &def, int dev
                                                  const QVector<bool> &quoted) {
     // Numbers may not come as strings; keys may come either way.
     const auto number_slot = [&def](int index) {
-        return (def.what == op::setpoint_write && index == 1) ||
-               (def.what == op::output_write) ||
+        return (def.what == op::setpoint_write && index == 1) || (def.what == op::output_write) ||
                (def.what == op::parameter_query) || (def.what == op::parameter_write);
     };
     for (int i = 0; i < quoted.size(); ++i) {
@@ -286,10 +284,9 @@ command_session::result command_session::execute(const command_def &def, int dev
     }
     if (def.what == op::device_identify) {
         static const char *const states[] = {"FOUND", "LOST", "UNKNOWN"};
-        return result::answer_with(scpi::quoted(info->name.toUtf8()) + ',' +
-                                   scpi::quoted(info->model.toUtf8()) + ',' +
-                                   number_text(info->type_id) + ',' +
-                                   states[static_cast<int>(info->state)]);
+        return result::answer_with(
+            scpi::quoted(info->name.toUtf8()) + ',' + scpi::quoted(info->model.toUtf8()) + ',' +
+            number_text(info->type_id) + ',' + states[static_cast<int>(info->state)]);
     }
     if (info->state != instrument::presence::found) {
         return result::failed(scpi::hardware_missing,
@@ -320,8 +317,7 @@ command_session::result command_session::device_query(const command_def &def, in
                 return result::failed(scpi::illegal_parameter_value,
                                       "no reading " + excerpt(args.value(0)));
             }
-            const std::optional<instrument::sample> s =
-                target_.reading(id, QString::fromUtf8(key));
+            const std::optional<instrument::sample> s = target_.reading(id, QString::fromUtf8(key));
             const double nothing = std::nan("");
             const double value =
                 !s ? nothing : (def.what == op::reading ? s->value : s->age_seconds);
@@ -384,39 +380,39 @@ command_session::result command_session::device_write(const command_def &def, in
     switch (def.what) {
         case op::setpoint_write: {
             const QByteArray key = args.value(0).toLower();
-            std::optional<instrument::setpoint_info> spec;
+            std::optional<instrument::setpoint_info> chosen;
             for (const instrument::setpoint_info &s : target_.setpoints(id)) {
                 if (key_of(s.key) == key) {
-                    spec = s;
+                    chosen = s;
                 }
             }
-            if (!spec) {
+            if (!chosen) {
                 return result::failed(scpi::illegal_parameter_value,
                                       "no set-point " + excerpt(args.value(0)));
             }
             std::optional<double> value;
             if (scpi::names(args.value(1), "MINimum")) {
-                value = spec->minimum;
+                value = chosen->minimum;
             } else if (scpi::names(args.value(1), "MAXimum")) {
-                value = spec->maximum;
+                value = chosen->maximum;
             } else {
                 value = scpi::parse_number(args.value(1));
             }
             if (!value) {
                 return result::failed(scpi::data_type_error, "not a number");
             }
-            switch (target_.write_setpoint(id, spec->key, *value)) {
+            switch (target_.write_setpoint(id, chosen->key, *value)) {
                 case instrument::outcome::queued:
                     return result::done();
                 case instrument::outcome::out_of_range:
                     return result::failed(scpi::data_out_of_range,
-                                          spec->key.toUtf8() + " from " +
-                                              scpi::format_number(spec->minimum) + " to " +
-                                              scpi::format_number(spec->maximum) + ' ' +
-                                              spec->unit.toUtf8());
+                                          chosen->key.toUtf8() + " from " +
+                                              scpi::format_number(chosen->minimum) + " to " +
+                                              scpi::format_number(chosen->maximum) + ' ' +
+                                              chosen->unit.toUtf8());
                 case instrument::outcome::not_allowed:
                     return result::failed(scpi::settings_conflict,
-                                          spec->key.toUtf8() + " cannot be set now");
+                                          chosen->key.toUtf8() + " cannot be set now");
                 case instrument::outcome::unknown_key:
                     break;
             }
@@ -427,9 +423,9 @@ command_session::result command_session::device_write(const command_def &def, in
             bool not_a_boolean = false;
             const std::optional<bool> on = scpi::parse_boolean(args.value(0), &not_a_boolean);
             if (!on) {
-                return result::failed(not_a_boolean ? scpi::data_type_error
-                                                    : scpi::data_out_of_range,
-                                      "ON, OFF, 1 or 0");
+                return result::failed(
+                    not_a_boolean ? scpi::data_type_error : scpi::data_out_of_range,
+                    "ON, OFF, 1 or 0");
             }
             if (!target_.set_output(id, *on)) {
                 return result::failed(scpi::settings_conflict,

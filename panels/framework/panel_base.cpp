@@ -493,19 +493,19 @@ void panel_base::bind_setpoint(QDoubleSpinBox *spin, int code, double scale, QSt
         name.key, name.quantity, [unit = name.unit] { return unit; });
 }
 
-QVector<panel_base::setpoint_spec> panel_base::setpoints() const {
-    QVector<setpoint_spec> specs;
+QVector<panel_base::setpoint_entry> panel_base::setpoints() const {
+    QVector<setpoint_entry> entries;
     for (QWidget *widget : setpoint_order_) {
         const auto name = setpoint_names_.constFind(widget);
         auto *spin = qobject_cast<QDoubleSpinBox *>(widget);
         if (name == setpoint_names_.constEnd() || !spin) {
             continue;
         }
-        specs.append(setpoint_spec{name->key, spin->objectName(), name->quantity,
-                                   name->unit ? name->unit() : QString(), spin->minimum(),
-                                   spin->maximum(), spin->decimals()});
+        entries.append(setpoint_entry{name->key, spin->objectName(), name->quantity,
+                                      name->unit ? name->unit() : QString(), spin->minimum(),
+                                      spin->maximum(), spin->decimals()});
     }
-    return specs;
+    return entries;
 }
 
 std::optional<double> panel_base::setpoint_value(const QString &key) const {

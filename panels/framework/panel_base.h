@@ -98,7 +98,7 @@ public:
 
     // --- Set-points and emission for callers without widgets (scripts, restores) -----------------
     // A set-point the operator can send with Enter, named by a stable key.
-    struct setpoint_spec {
+    struct setpoint_entry {
         QString key;       // e.g. "current", "temperature", "frequency"
         QString widget;    // object name of the widget the operator types into
         QString quantity;  // as the panel names it
@@ -108,7 +108,7 @@ public:
         int decimals = 0;
     };
     // The keyed set-points, in binding order (disabled ones included).
-    QVector<setpoint_spec> setpoints() const;
+    QVector<setpoint_entry> setpoints() const;
     enum class setpoint_result { queued, unknown_key, out_of_range, not_allowed };
     // Sends `value` as the operator would by typing it into the set-point widget named `key` and
     // confirming with Yes: the widget's limits and decimals apply, then the same code, scale and

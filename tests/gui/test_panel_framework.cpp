@@ -184,29 +184,29 @@ private slots:
         for (const reading_spec &reading : panel->readings()) {
             QVERIFY2(key_form.match(reading.key).hasMatch(), qPrintable(reading.quantity));
         }
-        for (const panel_base::setpoint_spec &spec : panel->setpoints()) {
-            QVERIFY2(key_form.match(spec.key).hasMatch(), qPrintable(spec.widget));
-            QVERIFY2(!keys.contains(spec.key), qPrintable(spec.key));
-            keys.insert(spec.key);
-            auto *spin = twin->findChild<QDoubleSpinBox *>(spec.widget);
+        for (const panel_base::setpoint_entry &entry : panel->setpoints()) {
+            QVERIFY2(key_form.match(entry.key).hasMatch(), qPrintable(entry.widget));
+            QVERIFY2(!keys.contains(entry.key), qPrintable(entry.key));
+            keys.insert(entry.key);
+            auto *spin = twin->findChild<QDoubleSpinBox *>(entry.widget);
             QVERIFY2(
-                spin && spin->isEnabled() == panel->findChild<QWidget *>(spec.widget)->isEnabled(),
-                qPrintable(spec.widget));
+                spin && spin->isEnabled() == panel->findChild<QWidget *>(entry.widget)->isEnabled(),
+                qPrintable(entry.widget));
             if (!spin->isEnabled()) {
-                QCOMPARE(panel->write_setpoint(spec.key, spec.minimum),
+                QCOMPARE(panel->write_setpoint(entry.key, entry.minimum),
                          panel_base::setpoint_result::not_allowed);
                 continue;
             }
-            QCOMPARE(panel->write_setpoint(spec.key, spec.maximum + 1),
+            QCOMPARE(panel->write_setpoint(entry.key, entry.maximum + 1),
                      panel_base::setpoint_result::out_of_range);
             QCOMPARE(panel->queued_commands(), 0);
             // A value with more decimals than the widget shows, inside its limits.
-            const double value = spec.minimum + (spec.maximum - spec.minimum) * 0.3719;
-            QCOMPARE(panel->write_setpoint(spec.key, value), panel_base::setpoint_result::queued);
+            const double value = entry.minimum + (entry.maximum - entry.minimum) * 0.3719;
+            QCOMPARE(panel->write_setpoint(entry.key, value), panel_base::setpoint_result::queued);
             // The widget took the value as typed text would be taken (its decimals, its grid).
-            const double taken = *panel->setpoint_value(spec.key);
-            QVERIFY2(std::abs(taken - value) <= 0.1 + std::pow(10, -spec.decimals),
-                     qPrintable(spec.key));
+            const double taken = *panel->setpoint_value(entry.key);
+            QVERIFY2(std::abs(taken - value) <= 0.1 + std::pow(10, -entry.decimals),
+                     qPrintable(entry.key));
             spin->setValue(taken);
             boxes->expect(QStringLiteral("Conformation"), QMessageBox::Yes);
             QTest::keyClick(spin, Qt::Key_Return);

@@ -106,11 +106,10 @@ private slots:
         QVERIFY(ask(*client, "*IDN?").startsWith("Lumivox,Veltrano,"));
         for (int slot : {0, 1, 2}) {
             const device *dev = window->devices().at(slot);
-            const QByteArray expected =
-                QStringLiteral("\"%1\",\"%2\",%3,FOUND")
-                    .arg(dev->name(), panel_of(slot)->type_name())
-                    .arg(bus.find(dev->can_id())->type_id())
-                    .toUtf8();
+            const QByteArray expected = QStringLiteral("\"%1\",\"%2\",%3,FOUND")
+                                            .arg(dev->name(), panel_of(slot)->type_name())
+                                            .arg(bus.find(dev->can_id())->type_id())
+                                            .toUtf8();
             QCOMPARE(ask(*client, "DEV" + QByteArray::number(dev->can_id()) + ":IDN?"), expected);
         }
         QCOMPARE(ask(*client, "DEV9:IDN?"), QByteArray("\"Bench 3\",\"\",-1,UNKNOWN"));
@@ -136,20 +135,20 @@ private slots:
         QFETCH(QString, key);
         clock.stop();
         const int id = window->devices().at(slot)->can_id();
-        reading_spec spec;
+        reading_spec described;
         for (const reading_spec &r : panel_of(slot)->readings()) {
             if (r.key == key) {
-                spec = r;
+                described = r;
             }
         }
-        const double reported = spec.value(bus.find(id)->value(spec.code - 128));
+        const double reported = described.value(bus.find(id)->value(described.code - 128));
         auto client = connect_client();
         QVERIFY(client);
         const QByteArray ask_value = "DEV" + QByteArray::number(id) + ":READ? " + key.toUtf8();
         // Until a poll after the stop has come back.
         QTRY_COMPARE_WITH_TIMEOUT(ask(*client, ask_value).toDouble(), reported, 5000);
-        const double age = ask(*client, "DEV" + QByteArray::number(id) + ":READ:AGE? " +
-                                            key.toUtf8()).toDouble();
+        const double age =
+            ask(*client, "DEV" + QByteArray::number(id) + ":READ:AGE? " + key.toUtf8()).toDouble();
         QVERIFY2(age >= 0 && age < 5, qPrintable(QString::number(age)));
         clock.start(10);
     }
@@ -176,8 +175,7 @@ private slots:
             << QByteArray("*IDN?") + QByteArray(4092, ' ') << 1 << E{-223};
         QTest::newRow("line of 4097 bytes and a carriage return")
             << QByteArray("*IDN?") + QByteArray(4092, ' ') + '\r' << 1 << E{-223};
-        QTest::newRow("line of 100000 bytes, one error")
-            << QByteArray(100000, 'A') << 1 << E{-223};
+        QTest::newRow("line of 100000 bytes, one error") << QByteArray(100000, 'A') << 1 << E{-223};
         E overflow;
         for (int i = 0; i < 16; ++i) {
             overflow << (i < 15 ? -113 : -350);
@@ -230,8 +228,8 @@ private slots:
         QTest::addColumn<QByteArray>("value");
         QTest::addColumn<int>("code");
         QTest::addColumn<int>("wire");
-        QTest::newRow("CW temperature") << 0 << QByteArray("temperature") << QByteArray("21.5")
-                                        << 18 << 215;
+        QTest::newRow("CW temperature")
+            << 0 << QByteArray("temperature") << QByteArray("21.5") << 18 << 215;
         QTest::newRow("heater temperature, exponent form")
             << 2 << QByteArray("temperature") << QByteArray("6.0E1") << 18 << 600;
     }
@@ -248,7 +246,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(bus.find(window->devices().at(slot)->can_id())->set_point(code),
                                   wire, 5000);
         QString widget;
-        for (const panel_base::setpoint_spec &s : panel_of(slot)->setpoints()) {
+        for (const panel_base::setpoint_entry &s : panel_of(slot)->setpoints()) {
             widget = s.key == QString::fromUtf8(key) ? s.widget : widget;
         }
         auto *spin = panel_of(slot)->findChild<QDoubleSpinBox *>(widget);
